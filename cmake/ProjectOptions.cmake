@@ -1,0 +1,35 @@
+# How the project's own code is compiled: strict warnings, strict Qt, optional sanitizers.
+
+add_library(ProjectOptions INTERFACE)
+
+target_compile_definitions(ProjectOptions INTERFACE
+    QT_NO_CAST_FROM_ASCII
+    QT_NO_CAST_TO_ASCII
+    QT_NO_CAST_FROM_BYTEARRAY
+    QT_NO_URL_CAST_FROM_STRING
+    QT_NO_KEYWORDS
+    QT_NO_FOREACH
+    QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
+
+if(MSVC)
+    target_compile_options(ProjectOptions INTERFACE
+        /utf-8 /W4 $<$<BOOL:${TEXTOPER_WARNINGS_AS_ERRORS}>:/WX>)
+else()
+    target_compile_options(ProjectOptions INTERFACE
+        -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+        $<$<BOOL:${TEXTOPER_WARNINGS_AS_ERRORS}>:-Werror>)
+endif()
+
+if(TEXTOPER_SANITIZERS)
+    target_compile_options(ProjectOptions INTERFACE
+        -fsanitize=${TEXTOPER_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(ProjectOptions INTERFACE -fsanitize=${TEXTOPER_SANITIZERS})
+endif()
+
+# Lets no symbol of a shared library be left to luck at load time. Clang's sanitizer run-time is
+# linked into programs only, so there its symbols have to stay open in libraries.
+function(forbid_undefined_symbols target)
+    if(UNIX AND NOT APPLE AND NOT (TEXTOPER_SANITIZERS AND CMAKE_CXX_COMPILER_ID MATCHES "Clang"))
+        target_link_options(${target} PRIVATE -Wl,--no-undefined)
+    endif()
+endfunction()

@@ -1,0 +1,18 @@
+#include "operations/common/Warning.h"
+
+#include <QMessageLogger>
+#include <QMetaObject>
+
+QDebug warning()
+{
+    // No file, line or function, whatever the build type; but a category, since handlers that print
+    // it do not expect a null one.
+    return QMessageLogger(nullptr, 0, nullptr, "default").warning();
+}
+
+QByteArray warningTag(const QMetaObject &operationClass)
+{
+    QByteArray name(operationClass.className());
+    name.chop(static_cast<int>(qstrlen("Operation")));
+    return '[' + name + ']';
+}

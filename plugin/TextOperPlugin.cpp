@@ -1,0 +1,76 @@
+#include "plugin/TextOperPlugin.h"
+
+#include "plugin/Contribution.h"
+
+#include "operations/TextAppendOperation.h"
+
+namespace {
+
+constexpr int interfaceVersion = 2;
+
+/// The operations in the order of the prototypes, each with its weight in the catalogue. The host
+/// sorts the catalogue by weight, so the two orders differ.
+constexpr Contribution contributions[] = {
+    contribution<TextAppendOperation>(0),
+};
+
+QStringList neededCapabilities()
+{
+    return {QStringLiteral("hasListType")};
+}
+
+} // namespace
+
+TextOperPlugin::TextOperPlugin() = default;
+
+TextOperPlugin::~TextOperPlugin() = default;
+
+QList<Operation *> TextOperPlugin::createPrototypes()
+{
+    QList<Operation *> prototypes;
+    prototypes.reserve(static_cast<int>(std::size(contributions)));
+    for (const Contribution &contribution : contributions)
+        prototypes.append(contribution.create());
+    return prototypes;
+}
+
+QString TextOperPlugin::pluginId() const
+{
+    return QStringLiteral("com.quorlent.Brimwork.TextOperPlugin");
+}
+
+QString TextOperPlugin::name() const
+{
+    // In the context all plug-ins of the host share for their names, not in that of this class.
+    return QObject::tr("文本操作插件");
+}
+
+QString TextOperPlugin::version() const
+{
+    return QStringLiteral("1.0.0");
+}
+
+int TextOperPlugin::apiVersion() const
+{
+    return interfaceVersion;
+}
+
+PluginManifest TextOperPlugin::manifest() const
+{
+    PluginManifest manifest;
+    manifest.id = pluginId();
+    manifest.name = name();
+    manifest.version = version();
+    manifest.apiVersion = interfaceVersion;
+    manifest.typeIdPrefix = QStringLiteral("text.");
+    manifest.requiredCapabilities = neededCapabilities();
+    manifest.rootOrder.insert(QStringLiteral("文本"), 500);
+    for (const Contribution &contribution : contributions)
+        manifest.typeOrder.insert(contribution.typeId(), contribution.weight);
+    return manifest;
+}
+
+QStringList TextOperPlugin::requiredCapabilities() const
+{
+    return neededCapabilities();
+}

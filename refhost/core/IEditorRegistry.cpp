@@ -1,0 +1,3 @@
+#include "IEditorRegistry.h"
+
+IEditorRegistry::~IEditorRegistry() = default;

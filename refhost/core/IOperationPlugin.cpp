@@ -1,0 +1,10 @@
+#include "IOperationPlugin.h"
+
+IOperationPlugin::IOperationPlugin() = default;
+
+IOperationPlugin::~IOperationPlugin() = default;
+
+void IOperationPlugin::registerEditors(IEditorRegistry &registry)
+{
+    Q_UNUSED(registry)
+}
