@@ -1,7 +1,10 @@
-# How the project's own code is compiled: strict warnings, strict Qt, optional sanitizers.
+# How the project's own code is compiled: strict warnings and optional sanitizers everywhere; outside
+# the tests, where texts are compared all the time, also without Qt's implicit text conversions.
 
+add_library(ProjectWarnings INTERFACE)
 add_library(ProjectOptions INTERFACE)
 
+target_link_libraries(ProjectOptions INTERFACE ProjectWarnings)
 target_compile_definitions(ProjectOptions INTERFACE
     QT_NO_CAST_FROM_ASCII
     QT_NO_CAST_TO_ASCII
@@ -12,18 +15,18 @@ target_compile_definitions(ProjectOptions INTERFACE
     QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
 
 if(MSVC)
-    target_compile_options(ProjectOptions INTERFACE
+    target_compile_options(ProjectWarnings INTERFACE
         /utf-8 /W4 $<$<BOOL:${TEXTOPER_WARNINGS_AS_ERRORS}>:/WX>)
 else()
-    target_compile_options(ProjectOptions INTERFACE
+    target_compile_options(ProjectWarnings INTERFACE
         -Wall -Wextra -Wpedantic -Wshadow -Wconversion
         $<$<BOOL:${TEXTOPER_WARNINGS_AS_ERRORS}>:-Werror>)
 endif()
 
 if(TEXTOPER_SANITIZERS)
-    target_compile_options(ProjectOptions INTERFACE
+    target_compile_options(ProjectWarnings INTERFACE
         -fsanitize=${TEXTOPER_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
-    target_link_options(ProjectOptions INTERFACE -fsanitize=${TEXTOPER_SANITIZERS})
+    target_link_options(ProjectWarnings INTERFACE -fsanitize=${TEXTOPER_SANITIZERS})
 endif()
 
 # Lets no symbol of a shared library be left to luck at load time. Clang's sanitizer run-time is

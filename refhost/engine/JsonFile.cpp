@@ -1,0 +1,51 @@
+#include "refhost/engine/JsonFile.h"
+
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonParseError>
+
+#include <algorithm>
+
+namespace {
+
+QString lineAndColumn(const QByteArray &text, const QJsonParseError &error)
+{
+    // Qt's parser has taken the character that it could not use, unless it was through already.
+    const bool wasThrough = error.error == QJsonParseError::GarbageAtEnd;
+    const QByteArray before = text.left(wasThrough ? error.offset : std::max(0, error.offset - 1));
+    const int lineStart = before.lastIndexOf('\n') + 1;
+    const int column = QString::fromUtf8(before.mid(lineStart)).size() + 1;
+    return QStringLiteral("line %1, column %2").arg(before.count('\n') + 1).arg(column);
+}
+
+} // namespace
+
+Result<QJsonObject> parseJsonObject(const QByteArray &json, const QString &file)
+{
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(json, &error);
+    if (error.error != QJsonParseError::NoError) {
+        return Problem{Problem::Reason::MalformedJson, file, lineAndColumn(json, error),
+                       QStringLiteral("malformed JSON (%1)").arg(error.errorString())};
+    }
+    if (!document.isObject()) {
+        return Problem{Problem::Reason::WrongKind, file, QStringLiteral("line 1, column 1"),
+                       QStringLiteral("an array; expected an object in braces")};
+    }
+    return document.object();
+}
+
+Result<QJsonObject> readJsonObject(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return Problem{Problem::Reason::UnreadableFile, path, {},
+                       QStringLiteral("cannot be read (%1)").arg(file.errorString())};
+    }
+    const QByteArray json = file.readAll();
+    if (file.error() != QFileDevice::NoError) {
+        return Problem{Problem::Reason::UnreadableFile, path, {},
+                       QStringLiteral("cannot be read (%1)").arg(file.errorString())};
+    }
+    return parseJsonObject(json, path);
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "refhost/engine/LoadedPlugin.h"
+#include "refhost/engine/Problem.h"
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+class Operation;
+
+/// One kind of step the host offers.
+struct CatalogEntry
+{
+    QString root;
+    int rootWeight = 0;
+    QString typeId;
+    int weight = 0;
+    const Operation *prototype = nullptr; ///< belongs to the catalogue
+};
+
+/// All the kinds of steps of all plug-ins, in the order in which a user sees them: by the weight of
+/// the root, then by the weight within it; without a weight last, and otherwise as contributed.
+class OperationCatalog
+{
+public:
+    /// Loads the plug-ins in `files`. One that cannot be loaded, or that brings a type identifier
+    /// that is taken already, is left out and stands in `failures`.
+    explicit OperationCatalog(const QStringList &files);
+
+    const QList<CatalogEntry> &entries() const { return m_entries; }
+    const QList<Problem> &failures() const { return m_failures; }
+    const std::vector<LoadedPlugin> &plugins() const { return m_plugins; }
+
+    /// The entry of the type identifier, null when there is none. Valid as long as the catalogue.
+    const CatalogEntry *find(const QString &typeId) const;
+
+    /// The type identifiers, in catalogue order.
+    QStringList typeIds() const;
+
+private:
+    void add(LoadedPlugin plugin);
+
+    std::vector<LoadedPlugin> m_plugins;
+    QList<CatalogEntry> m_entries;
+    QList<Problem> m_failures;
+};

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QString>
+
+/// Why something the user gave cannot be used: a reason to compare, a place, and a text for people.
+struct Problem
+{
+    enum class Reason {
+        UnreadableFile,
+        MalformedJson,
+        WrongKind,       ///< another kind of JSON value than expected
+        UnknownKey,      ///< a key nobody reads, or a property the operation does not have
+        MissingKey,
+        UnknownType,     ///< no operation, or no variable type, of that name
+        UnknownChoice,   ///< a mode label outside the choice list
+        UnfitValue,      ///< a value its variable or property cannot hold
+        UnknownVariable, ///< a variable the task does not declare
+        PluginNotLoaded
+    };
+
+    Reason reason = Reason::UnfitValue;
+    QString file;    ///< where it stands, empty when it does not come from a file
+    QString place;   ///< for instance "steps[3].cutMode" or "line 3, column 8", may be empty
+    QString message; ///< what stands there and what is expected
+
+    /// File, place and message in one line.
+    QString toString() const;
+};

@@ -1,0 +1,76 @@
+#include "refhost/engine/PropertyValue.h"
+
+#include "refhost/engine/JsonValue.h"
+
+#include <QLocale>
+
+namespace {
+
+QString quotedList(const QStringList &texts)
+{
+    QStringList quoted;
+    for (const QString &text : texts)
+        quoted.append(QLatin1Char('"') + text + QLatin1Char('"'));
+    return quoted.join(QLatin1String(", "));
+}
+
+Problem unfit(const QJsonValue &json, const QString &expected,
+              Problem::Reason reason = Problem::Reason::UnfitValue)
+{
+    return {reason, {}, {}, QStringLiteral("%1; expected %2").arg(jsonText(json), expected)};
+}
+
+bool isNumericOperand(const PropertySchema &schema)
+{
+    return schema.editor.startsWith(QLatin1String("NUMVAR:"));
+}
+
+Result<QVariant> operandFromJson(const QJsonValue &json, const PropertySchema &schema)
+{
+    if (json.isString())
+        return QVariant(json.toString());
+    if (!isNumericOperand(schema))
+        return unfit(json, QStringLiteral("a string"));
+    if (!json.isDouble())
+        return unfit(json, QStringLiteral("a number or a string"));
+    return QVariant(QString::number(json.toDouble(), 'f', QLocale::FloatingPointShortest));
+}
+
+Result<QVariant> choiceFromJson(const QJsonValue &json, const PropertySchema &schema)
+{
+    if (json.isString()) {
+        const int index = schema.choices.indexOf(json.toString());
+        if (index >= 0)
+            return QVariant(index);
+    } else if (const Result<QVariant> number = variantFromJson(json, VarType::Int)) {
+        return number;
+    }
+    return unfit(json,
+                 QStringLiteral("one of %1, or the number of a choice")
+                     .arg(quotedList(schema.choices)),
+                 Problem::Reason::UnknownChoice);
+}
+
+} // namespace
+
+Result<QVariant> propertyFromJson(const QJsonValue &json, const PropertySchema &schema)
+{
+    if (!schema.choices.isEmpty())
+        return choiceFromJson(json, schema);
+    if (schema.typeName == QLatin1String("QString"))
+        return operandFromJson(json, schema);
+    if (schema.typeName == QLatin1String("int"))
+        return variantFromJson(json, VarType::Int);
+    if (schema.typeName == QLatin1String("double"))
+        return variantFromJson(json, VarType::Double);
+    if (schema.typeName == QLatin1String("bool"))
+        return variantFromJson(json, VarType::Bool);
+    return unfit(json, QStringLiteral("nothing: a property of type %1 cannot stand in a task file")
+                           .arg(schema.typeName));
+}
+
+QJsonValue propertyToJson(const QVariant &value, const PropertySchema &schema)
+{
+    const QString label = schema.choices.value(value.toInt());
+    return label.isEmpty() ? variantToJson(value) : QJsonValue(label);
+}

@@ -1,0 +1,193 @@
+#include "refhost/engine/TaskReader.h"
+
+#include "refhost/engine/JsonFile.h"
+#include "refhost/engine/JsonValue.h"
+#include "refhost/engine/OperationCatalog.h"
+#include "refhost/engine/OperationSchema.h"
+#include "refhost/engine/PropertyValue.h"
+#include "refhost/engine/VarTypeName.h"
+
+#include "Operation.h"
+
+#include <QJsonArray>
+
+namespace {
+
+using Reason = Problem::Reason;
+
+Problem at(const QString &place, Reason reason, const QString &message)
+{
+    return {reason, {}, place, message};
+}
+
+Problem at(const QString &place, Problem problem)
+{
+    problem.place = place;
+    return problem;
+}
+
+QString typeKey()
+{
+    return QStringLiteral("type");
+}
+
+QString expected(const QStringList &words)
+{
+    return QStringLiteral("expected ") + words.join(QLatin1String(", "));
+}
+
+/// The first key of `json` that nobody reads.
+std::optional<Problem> unknownKey(const QJsonObject &json, const QStringList &known,
+                                  const QString &place)
+{
+    for (auto member = json.begin(); member != json.end(); ++member) {
+        if (!known.contains(member.key())) {
+            return at(place, Reason::UnknownKey,
+                      QStringLiteral("unknown key %1; %2").arg(jsonText(member.key()), expected(known)));
+        }
+    }
+    return std::nullopt;
+}
+
+Problem wrongKind(const QString &place, const QJsonValue &found, const QString &kind)
+{
+    const bool missing = found.isUndefined();
+    return at(place, missing ? Reason::MissingKey : Reason::WrongKind,
+              QStringLiteral("%1; expected %2")
+                  .arg(missing ? QStringLiteral("missing") : jsonText(found), kind));
+}
+
+Problem unknownType(const QString &place, const QJsonValue &found, const QStringList &known)
+{
+    const bool missing = found.isUndefined();
+    return at(place + QLatin1Char('.') + typeKey(),
+              missing ? Reason::MissingKey : Reason::UnknownType,
+              QStringLiteral("%1; %2").arg(missing ? QStringLiteral("missing") : jsonText(found),
+                                           expected(known)));
+}
+
+Result<TaskVariable> readVariable(const QString &name, const QJsonValue &json, const QString &place)
+{
+    if (name.isEmpty())
+        return at(place, Reason::UnfitValue, QStringLiteral("an empty name; expected a name"));
+    if (!json.isObject())
+        return wrongKind(place, json, QStringLiteral("an object with \"type\" and \"value\""));
+    const QJsonObject settings = json.toObject();
+    const QString valueKey = QStringLiteral("value");
+    if (const auto problem = unknownKey(settings, {typeKey(), valueKey}, place))
+        return *problem;
+    const QJsonValue typeWord = settings.value(typeKey());
+    TaskVariable variable{name, varTypeFromName(typeWord.toString()), {}};
+    if (variable.type == VarType::None)
+        return unknownType(place, typeWord, varTypeNames());
+    if (settings.contains(valueKey)) {
+        const Result<QVariant> start = variantFromJson(settings.value(valueKey), variable.type);
+        if (!start)
+            return at(place + QLatin1Char('.') + valueKey, start.problem());
+        variable.value = start.value();
+    }
+    return variable;
+}
+
+std::optional<Problem> readVariables(const QJsonValue &json, const QString &place, Task &task)
+{
+    if (json.isUndefined())
+        return std::nullopt;
+    if (!json.isObject())
+        return wrongKind(place, json, QStringLiteral("an object of variables"));
+    const QJsonObject variables = json.toObject();
+    for (auto member = variables.begin(); member != variables.end(); ++member) {
+        const Result<TaskVariable> variable =
+            readVariable(member.key(), member.value(), place + QLatin1Char('.') + member.key());
+        if (!variable)
+            return variable.problem();
+        task.variables.append(variable.value());
+    }
+    return std::nullopt;
+}
+
+/// Sets the properties of a step that is still at its defaults.
+std::optional<Problem> applySettings(Operation &step, const QJsonObject &settings,
+                                     const QString &place)
+{
+    const OperationSchema schema(step);
+    for (auto member = settings.begin(); member != settings.end(); ++member) {
+        const QString propertyPlace = place + QLatin1Char('.') + member.key();
+        const PropertySchema *const property = schema.property(member.key());
+        if (!property) {
+            return at(propertyPlace, Reason::UnknownKey,
+                      QStringLiteral("%1 has no such property; %2")
+                          .arg(step.typeId(), expected(schema.propertyNames())));
+        }
+        const Result<QVariant> value = propertyFromJson(member.value(), *property);
+        if (!value)
+            return at(propertyPlace, value.problem());
+        step.setProperty(property->name.toLatin1().constData(), value.value());
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+TaskReader::TaskReader(const OperationCatalog &catalog)
+    : m_catalog(catalog)
+{
+}
+
+Result<Task> TaskReader::readFile(const QString &path) const
+{
+    const Result<QJsonObject> json = readJsonObject(path);
+    if (!json)
+        return json.problem();
+    Result<Task> task = read(json.value());
+    if (task)
+        return task;
+    Problem problem = task.problem();
+    problem.file = path;
+    return problem;
+}
+
+Result<Task> TaskReader::read(const QJsonObject &json) const
+{
+    const QString variablesKey = QStringLiteral("variables");
+    const QString stepsKey = QStringLiteral("steps");
+    if (const auto problem = unknownKey(json, {variablesKey, stepsKey}, {}))
+        return *problem;
+    Task task;
+    if (const auto problem = readVariables(json.value(variablesKey), variablesKey, task))
+        return *problem;
+    if (const auto problem = readSteps(json.value(stepsKey), stepsKey, task))
+        return *problem;
+    return task;
+}
+
+std::optional<Problem> TaskReader::readSteps(const QJsonValue &json, const QString &place,
+                                             Task &task) const
+{
+    if (!json.isArray())
+        return wrongKind(place, json, QStringLiteral("an array of steps"));
+    const QJsonArray list = json.toArray();
+    for (int i = 0; i < list.size(); ++i) {
+        auto step = readStep(list.at(i), QStringLiteral("%1[%2]").arg(place).arg(i));
+        if (!step)
+            return step.problem();
+        task.steps.push_back(std::move(step.value()));
+    }
+    return std::nullopt;
+}
+
+Result<std::unique_ptr<Operation>> TaskReader::readStep(const QJsonValue &json,
+                                                        const QString &place) const
+{
+    if (!json.isObject())
+        return wrongKind(place, json, QStringLiteral("an object with \"type\" and properties"));
+    QJsonObject settings = json.toObject();
+    const QJsonValue typeId = settings.take(typeKey());
+    const CatalogEntry *const entry = m_catalog.find(typeId.toString());
+    if (!entry)
+        return unknownType(place, typeId, m_catalog.typeIds());
+    std::unique_ptr<Operation> step(entry->prototype->clone(nullptr));
+    if (const auto problem = applySettings(*step, settings, place))
+        return *problem;
+    return step;
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "refhost/engine/Result.h"
+#include "refhost/engine/Task.h"
+
+#include <QJsonObject>
+#include <QString>
+
+#include <memory>
+#include <optional>
+
+class OperationCatalog;
+
+/// Reads tasks from JSON, with the steps of a catalogue:
+///
+///     { "variables": { "line": {"type": "string", "value": "a;b"}, "part": {"type": "string"} },
+///       "steps": [ {"type": "text.append", "sourceText": "$line", "resultVar": "part"} ] }
+///
+/// A task is read in full or not at all; the problem names the first place that is wrong.
+class TaskReader
+{
+public:
+    /// The catalogue has to outlive the reader and the plug-ins the tasks it reads.
+    explicit TaskReader(const OperationCatalog &catalog);
+
+    Result<Task> readFile(const QString &path) const;
+
+    /// Reads a task from an object already parsed; problems name no file.
+    Result<Task> read(const QJsonObject &json) const;
+
+private:
+    std::optional<Problem> readSteps(const QJsonValue &json, const QString &place,
+                                     Task &task) const;
+    Result<std::unique_ptr<Operation>> readStep(const QJsonValue &json, const QString &place) const;
+
+    const OperationCatalog &m_catalog;
+};

@@ -1,0 +1,36 @@
+#include "refhost/engine/TaskRunner.h"
+
+#include "refhost/engine/MessageCapture.h"
+#include "refhost/engine/Task.h"
+
+#include "Operation.h"
+#include "VariableScope.h"
+
+namespace {
+
+StepReport runStep(Operation &step, VariableScope &scope)
+{
+    MessageCapture capture;
+    scope.forgetWrites();
+    step.setVariableScope(&scope);
+    step.doOperation();
+    step.setVariableScope(nullptr);
+    StepReport report;
+    report.step = &step;
+    report.written = scope.writtenNames();
+    report.warnings = capture.takeLines();
+    return report;
+}
+
+} // namespace
+
+void runTask(const Task &task, VariableScope &scope,
+             const std::function<void(const StepReport &)> &report)
+{
+    int index = 0;
+    for (const auto &step : task.steps) {
+        StepReport stepReport = runStep(*step, scope);
+        stepReport.index = index++;
+        report(stepReport);
+    }
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QStringList>
+
+#include <functional>
+
+class Operation;
+class Task;
+class VariableScope;
+
+/// What one step of a run did.
+struct StepReport
+{
+    int index = 0;                   ///< place in the task, counted from 0
+    const Operation *step = nullptr; ///< belongs to the task
+    QStringList written;             ///< the variables it wrote; their values are in the scope
+    QStringList warnings;            ///< the lines it logged
+};
+
+/// Runs the steps of `task` in order on `scope`, and calls `report` after each. The steps keep no
+/// pointer to the scope afterwards.
+void runTask(const Task &task, VariableScope &scope,
+             const std::function<void(const StepReport &)> &report);

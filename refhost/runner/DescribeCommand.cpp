@@ -1,0 +1,131 @@
+#include "refhost/runner/DescribeCommand.h"
+
+#include "refhost/engine/JsonValue.h"
+#include "refhost/engine/OperationCatalog.h"
+#include "refhost/engine/OperationSchema.h"
+#include "refhost/runner/Console.h"
+#include "refhost/runner/ExitStatus.h"
+#include "refhost/runner/Options.h"
+#include "refhost/runner/TextColumns.h"
+
+#include "Operation.h"
+
+#include <QCommandLineParser>
+#include <QJsonArray>
+#include <QJsonObject>
+
+namespace {
+
+QJsonObject propertyToJson(const PropertySchema &property)
+{
+    QJsonObject json{{QStringLiteral("name"), property.name},
+                     {QStringLiteral("type"), property.typeName},
+                     {QStringLiteral("label"), property.label},
+                     {QStringLiteral("default"), variantToJson(property.defaultValue)}};
+    if (!property.editor.isEmpty())
+        json.insert(QStringLiteral("editor"), property.editor);
+    if (!property.restrictionKey.isEmpty())
+        json.insert(property.restrictionKey, property.restriction);
+    if (!property.choices.isEmpty())
+        json.insert(QStringLiteral("choices"), QJsonArray::fromStringList(property.choices));
+    if (!property.conditionName.isEmpty()) {
+        QJsonArray values;
+        for (const int value : property.conditionValues)
+            values.append(value);
+        json.insert(QStringLiteral("showWhen"),
+                    QJsonObject{{QStringLiteral("property"), property.conditionName},
+                                {QStringLiteral("values"), values}});
+    }
+    return json;
+}
+
+QJsonObject operationToJson(const CatalogEntry &entry, const OperationSchema &schema)
+{
+    QJsonArray properties;
+    for (const PropertySchema &property : schema.properties())
+        properties.append(propertyToJson(property));
+    return {{QStringLiteral("typeId"), entry.typeId},
+            {QStringLiteral("name"), entry.prototype->typeName()},
+            {QStringLiteral("root"), entry.root},
+            {QStringLiteral("icon"), entry.prototype->icon()},
+            {QStringLiteral("properties"), properties}};
+}
+
+/// What may be chosen or referred to, and when the property is shown, in words.
+QString remarks(const PropertySchema &property)
+{
+    QStringList remarks;
+    if (!property.restrictionKey.isEmpty())
+        remarks.append(property.restrictionKey + QLatin1Char(' ') + property.restriction);
+    if (!property.choices.isEmpty()) {
+        QStringList choices;
+        for (int i = 0; i < property.choices.size(); ++i)
+            choices.append(QStringLiteral("%1 %2").arg(i).arg(property.choices.at(i)));
+        remarks.append(choices.join(QLatin1String(" | ")));
+    }
+    if (!property.conditionName.isEmpty()) {
+        QStringList values;
+        for (const int value : property.conditionValues)
+            values.append(QString::number(value));
+        remarks.append(QStringLiteral("shown when %1 is %2")
+                           .arg(property.conditionName, values.join(QLatin1String(" or "))));
+    }
+    return remarks.join(QLatin1String("; "));
+}
+
+void printOperation(const CatalogEntry &entry, const OperationSchema &schema, Console &console)
+{
+    console.print(QStringLiteral("%1  %2  %3").arg(entry.typeId, entry.prototype->typeName(),
+                                                   entry.prototype->icon()));
+    QList<QStringList> rows{{QStringLiteral("PROPERTY"), QStringLiteral("LABEL"),
+                             QStringLiteral("EDITOR"), QStringLiteral("DEFAULT"),
+                             QStringLiteral("REMARKS")}};
+    for (const PropertySchema &property : schema.properties()) {
+        rows.append({property.name, property.label,
+                     property.editor.isEmpty() ? property.typeName : property.editor,
+                     jsonText(variantToJson(property.defaultValue)), remarks(property)});
+    }
+    const QStringList lines = alignColumns(rows);
+    for (const QString &line : lines)
+        console.print(line);
+}
+
+} // namespace
+
+QString DescribeCommand::name() const
+{
+    return QStringLiteral("describe");
+}
+
+QString DescribeCommand::summary() const
+{
+    return QStringLiteral("Shows the properties of an operation as its editor is told about them.");
+}
+
+QStringList DescribeCommand::arguments() const
+{
+    return {QStringLiteral("TYPE")};
+}
+
+void DescribeCommand::addOptions(QCommandLineParser &parser) const
+{
+    parser.addOption(Options::json());
+}
+
+int DescribeCommand::run(const QCommandLineParser &options, const QStringList &arguments,
+                         const OperationCatalog &catalog, Console &console) const
+{
+    const CatalogEntry *const entry = catalog.find(arguments.first());
+    if (!entry) {
+        console.complain(QStringLiteral("no operation %1; expected %2")
+                             .arg(jsonText(arguments.first()),
+                                  catalog.typeIds().join(QLatin1String(", "))));
+        return BadInput;
+    }
+    const OperationSchema schema(*entry->prototype);
+    if (options.isSet(Options::json()))
+        console.printJson(operationToJson(*entry, schema));
+    else
+        printOperation(*entry, schema, console);
+    return Success;
+}

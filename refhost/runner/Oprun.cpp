@@ -1,0 +1,152 @@
+#include "refhost/runner/Oprun.h"
+
+#include "refhost/engine/OperationCatalog.h"
+#include "refhost/engine/PluginFolder.h"
+#include "refhost/runner/CatalogCommand.h"
+#include "refhost/runner/Console.h"
+#include "refhost/runner/DescribeCommand.h"
+#include "refhost/runner/ExitStatus.h"
+#include "refhost/runner/ExplainCommand.h"
+#include "refhost/runner/Options.h"
+#include "refhost/runner/RunCommand.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace {
+
+using Commands = std::vector<std::unique_ptr<Command>>;
+
+Commands allCommands()
+{
+    Commands commands;
+    commands.push_back(std::make_unique<CatalogCommand>());
+    commands.push_back(std::make_unique<DescribeCommand>());
+    commands.push_back(std::make_unique<RunCommand>());
+    commands.push_back(std::make_unique<ExplainCommand>());
+    return commands;
+}
+
+QStringList commandNames(const Commands &commands)
+{
+    QStringList names;
+    for (const auto &command : commands)
+        names.append(command->name());
+    return names;
+}
+
+QString overview(const Commands &commands)
+{
+    QString text = QStringLiteral("Runs tasks of a desktop automation host on its plug-ins.\n\n"
+                                  "Commands:\n");
+    for (const auto &command : commands)
+        text += QStringLiteral("  %1 %2\n").arg(command->name(), -9).arg(command->summary());
+    return text + QStringLiteral("\n\"oprun COMMAND --help\" tells about one of them.");
+}
+
+/// Answers --help and --version; the exit status if there was such a question.
+std::optional<int> answerQuestion(const QCommandLineParser &parser)
+{
+    Console console;
+    if (parser.isSet(Options::help())) {
+        console.print(parser.helpText().trimmed());
+    } else if (parser.isSet(Options::version())) {
+        console.print(QCoreApplication::applicationName() + QLatin1Char(' ')
+                      + QCoreApplication::applicationVersion());
+    } else {
+        return std::nullopt;
+    }
+    return console.flush() ? Success : BadInput;
+}
+
+int usageError(const Console &console, const QString &message)
+{
+    console.complain(message + QStringLiteral(" Try \"oprun --help\"."));
+    return BadInput;
+}
+
+/// The plug-in files to load; empty, with a message, when none is given or found.
+QStringList chosenPlugins(const QCommandLineParser &options, const Console &console)
+{
+    if (options.isSet(Options::plugin()))
+        return options.values(Options::plugin());
+    const QStringList folders = pluginFolders(QCoreApplication::applicationDirPath());
+    const QStringList files = pluginFiles(folders);
+    if (files.isEmpty()) {
+        console.complain(QStringLiteral("no plug-in found in %1; expected one there or --plugin FILE")
+                             .arg(folders.join(QLatin1String(" or "))));
+    }
+    return files;
+}
+
+int runWithCatalog(const Command &command, const QCommandLineParser &options, Console &console)
+{
+    const QStringList files = chosenPlugins(options, console);
+    if (files.isEmpty())
+        return PluginNotLoaded;
+    const OperationCatalog catalog(files);
+    for (const Problem &failure : catalog.failures())
+        console.complain(failure.toString());
+    if (!catalog.failures().isEmpty())
+        return PluginNotLoaded;
+    const QStringList arguments = options.positionalArguments().mid(1);
+    const int status = command.run(options, arguments, catalog, console);
+    return console.flush() ? status : BadInput;
+}
+
+int runCommand(const Command &command, QCommandLineParser &parser, const QStringList &arguments)
+{
+    Console console;
+    parser.clearPositionalArguments();
+    parser.setApplicationDescription(command.summary());
+    parser.addPositionalArgument(command.name(), command.summary());
+    for (const QString &argument : command.arguments())
+        parser.addPositionalArgument(argument, QString());
+    command.addOptions(parser);
+    if (!parser.parse(arguments))
+        return usageError(console, parser.errorText());
+    if (const auto status = answerQuestion(parser))
+        return *status;
+    const int given = parser.positionalArguments().size() - 1;
+    if (given != command.arguments().size()) {
+        return usageError(console, QStringLiteral("%1: %2 arguments; expected %3.")
+                                       .arg(command.name(), QString::number(given),
+                                            command.arguments().isEmpty()
+                                                ? QStringLiteral("none")
+                                                : command.arguments().join(QLatin1Char(' '))));
+    }
+    return runWithCatalog(command, parser, console);
+}
+
+} // namespace
+
+int runOprun(const QStringList &arguments)
+{
+    const Console console;
+    const Commands commands = allCommands();
+    QCommandLineParser parser;
+    parser.setApplicationDescription(overview(commands));
+    parser.addOptions({Options::help(), Options::version(), Options::plugin()});
+    parser.addPositionalArgument(QStringLiteral("COMMAND"),
+                                 commandNames(commands).join(QLatin1String(", ")));
+
+    // The options of the command are not known yet; an unknown one counts only without a command.
+    const bool understood = parser.parse(arguments);
+    const QString name = parser.positionalArguments().value(0);
+    for (const auto &command : commands) {
+        if (command->name() == name)
+            return runCommand(*command, parser, arguments);
+    }
+    if (!understood)
+        return usageError(console, parser.errorText());
+    if (const auto status = answerQuestion(parser))
+        return *status;
+    return usageError(console, QStringLiteral("%1; expected %2.")
+                                   .arg(name.isEmpty() ? QStringLiteral("no command")
+                                                       : QStringLiteral("no command \"%1\"").arg(name),
+                                        commandNames(commands).join(QLatin1String(", "))));
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QCommandLineOption>
+
+/// The options that several commands know.
+namespace Options {
+
+/// --help: print the help text and stop.
+QCommandLineOption help();
+
+/// --version: print the program's version and stop.
+QCommandLineOption version();
+
+/// --json: results as JSON.
+QCommandLineOption json();
+
+/// --plugin FILE: load this plug-in instead of those found beside the program; repeatable.
+QCommandLineOption plugin();
+
+} // namespace Options

@@ -1,0 +1,185 @@
+#include "tests/support/QuietTest.h"
+
+#include "refhost/engine/JsonValue.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QtTest>
+
+#include <cmath>
+#include <limits>
+
+class JsonValueTest : public QuietTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void fits_data();
+    void fits();
+    void doesNotFit_data();
+    void doesNotFit();
+    void text_data();
+    void text();
+    void toJson_data();
+    void toJson();
+    void specialNumbers();
+};
+
+namespace {
+
+QJsonValue json(const char *text)
+{
+    return QJsonDocument::fromJson('[' + QByteArray(text) + ']').array().first();
+}
+
+} // namespace
+
+void JsonValueTest::fits_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QVariant>("value");
+
+    QTest::newRow("int") << "-7" << 1 << QVariant(-7);
+    QTest::newRow("largest int") << "2147483647" << 1 << QVariant(2147483647);
+    QTest::newRow("smallest int") << "-2147483648" << 1 << QVariant(-2147483647 - 1);
+    QTest::newRow("int with a point") << "2.0" << 1 << QVariant(2);
+    QTest::newRow("double") << "2.5" << 2 << QVariant(2.5);
+    QTest::newRow("whole double") << "3" << 2 << QVariant(3.0);
+    QTest::newRow("infinite") << "\"-inf\"" << 2
+                              << QVariant(-std::numeric_limits<double>::infinity());
+    QTest::newRow("string") << "\"文本\"" << 3 << QVariant("文本");
+    QTest::newRow("empty string") << "\"\"" << 3 << QVariant("");
+    QTest::newRow("bool") << "true" << 4 << QVariant(true);
+    QTest::newRow("empty list") << "[]" << 5 << QVariant(QVariantList());
+    QTest::newRow("mixed list") << "[1, 2.5, \"a\", false, [3]]" << 5
+                                << QVariant(QVariantList{1, 2.5, "a", false, QVariantList{3}});
+    QTest::newRow("large whole number in a list")
+        << "[9007199254740992]" << 5 << QVariant(QVariantList{9007199254740992LL});
+    QTest::newRow("too large for a whole number")
+        << "[1e300]" << 5 << QVariant(QVariantList{1e300});
+    QTest::newRow("table") << "[[1, 2], []]" << 6
+                           << QVariant(QVariantList{QVariantList{1, 2}, QVariantList()});
+}
+
+void JsonValueTest::fits()
+{
+    QFETCH(QString, text);
+    QFETCH(int, type);
+    QFETCH(QVariant, value);
+    const Result<QVariant> result =
+        variantFromJson(json(text.toUtf8().constData()), static_cast<VarType>(type));
+    QVERIFY(result);
+    QCOMPARE(result.value(), value);
+    QCOMPARE(result.value().userType(), value.userType());
+}
+
+void JsonValueTest::doesNotFit_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QString>("message");
+
+    const QString ints = "a whole number from -2147483648 to 2147483647";
+    const QString doubles = R"(a number, or one of "inf", "-inf" and "nan")";
+    QTest::newRow("fraction for an int") << "2.5" << 1 << "2.5; expected " + ints;
+    QTest::newRow("too large int") << "2147483648" << 1 << "2147483648; expected " + ints;
+    QTest::newRow("text for an int") << "\"2\"" << 1 << "\"2\"; expected " + ints;
+    QTest::newRow("bool for an int") << "true" << 1 << "true; expected " + ints;
+    QTest::newRow("null for an int") << "null" << 1 << "null; expected " + ints;
+    QTest::newRow("text for a double") << "\"2.5\"" << 2 << "\"2.5\"; expected " + doubles;
+    QTest::newRow("number for a string") << "1" << 3 << "1; expected a string";
+    QTest::newRow("number for a bool") << "1" << 4 << "1; expected true or false";
+    QTest::newRow("text for a list")
+        << "\"a\"" << 5 << "\"a\"; expected an array of strings, numbers, booleans and such arrays";
+    QTest::newRow("null in a list")
+        << "[null]" << 5 << "[null]; expected an array of strings, numbers, booleans and such arrays";
+    QTest::newRow("object deep in a list")
+        << "[[{}]]" << 5 << "[[{}]]; expected an array of strings, numbers, booleans and such arrays";
+    QTest::newRow("flat table") << "[[1],2]" << 6
+                                << "[[1],2]; expected an array of rows, each an array";
+    QTest::newRow("no type") << "1" << 0 << "1; expected a value of a known type";
+}
+
+void JsonValueTest::doesNotFit()
+{
+    QFETCH(QString, text);
+    QFETCH(int, type);
+    const Result<QVariant> result =
+        variantFromJson(json(text.toUtf8().constData()), static_cast<VarType>(type));
+    QVERIFY(!result);
+    QCOMPARE(result.problem().reason, Problem::Reason::UnfitValue);
+    QTEST(result.problem().toString(), "message");
+}
+
+void JsonValueTest::text_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QVariant>("value"); // invalid where the text does not fit
+
+    QTest::newRow("string as it is") << " \"a\" " << 3 << QVariant(" \"a\" ");
+    QTest::newRow("empty string") << "" << 3 << QVariant("");
+    QTest::newRow("int") << "42" << 1 << QVariant(42);
+    QTest::newRow("words for an int") << "forty" << 1 << QVariant();
+    QTest::newRow("nothing for an int") << "" << 1 << QVariant();
+    QTest::newRow("two values") << "1,2" << 1 << QVariant();
+    QTest::newRow("double") << "1e3" << 2 << QVariant(1000.0);
+    QTest::newRow("infinite") << "inf" << 2 << QVariant(std::numeric_limits<double>::infinity());
+    QTest::newRow("bool") << "false" << 4 << QVariant(false);
+    QTest::newRow("number for a bool") << "1" << 4 << QVariant();
+    QTest::newRow("list") << R"(["a", 1])" << 5 << QVariant(QVariantList{"a", 1});
+    QTest::newRow("open list") << R"(["a")" << 5 << QVariant();
+    QTest::newRow("table") << "[[1]]" << 6 << QVariant(QVariantList{QVariantList{1}});
+}
+
+void JsonValueTest::text()
+{
+    QFETCH(QString, text);
+    QFETCH(int, type);
+    QFETCH(QVariant, value);
+    const Result<QVariant> result = variantFromText(text, static_cast<VarType>(type));
+    QCOMPARE(bool(result), value.isValid());
+    if (result)
+        QCOMPARE(result.value(), value);
+    else
+        QCOMPARE(result.problem().reason, Problem::Reason::UnfitValue);
+}
+
+void JsonValueTest::toJson_data()
+{
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("invalid") << QVariant() << "\"\"";
+    QTest::newRow("string") << QVariant("a\n\"文\"") << R"("a\n\"文\"")";
+    QTest::newRow("int") << QVariant(-5) << "-5";
+    QTest::newRow("long") << QVariant(9007199254740991LL) << "9007199254740991";
+    QTest::newRow("double") << QVariant(2.5) << "2.5";
+    QTest::newRow("whole double") << QVariant(4.0) << "4";
+    QTest::newRow("not a number") << QVariant(std::nan("")) << "\"nan\"";
+    QTest::newRow("bool") << QVariant(true) << "true";
+    QTest::newRow("list") << QVariant(QVariantList{"a", 1, QVariantList{true}}) << "[\"a\",1,[true]]";
+    QTest::newRow("strings") << QVariant(QStringList({"a", "b"})) << "[\"a\",\"b\"]";
+}
+
+void JsonValueTest::toJson()
+{
+    QFETCH(QVariant, value);
+    QTEST(jsonText(variantToJson(value)), "expected");
+}
+
+void JsonValueTest::specialNumbers()
+{
+    const double values[] = {std::numeric_limits<double>::infinity(),
+                             -std::numeric_limits<double>::infinity(), std::nan("")};
+    for (const double value : values) {
+        const auto back = variantFromJson(variantToJson(value), VarType::Double);
+        QVERIFY(back);
+        const double number = back.value().toDouble();
+        QVERIFY(number == value || (std::isnan(number) && std::isnan(value)));
+    }
+}
+
+QTEST_GUILESS_MAIN(JsonValueTest)
+
+#include "JsonValueTest.moc"

@@ -1,0 +1,432 @@
+#include "tests/support/QuietTest.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <memory>
+
+/// oprun as a process: what it prints, what it complains of, and its exit status.
+class OprunTest : public QuietTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void runsTasks_data();
+    void runsTasks();
+    void refuses_data();
+    void refuses();
+    void printsJson();
+    void tracesSteps();
+    void explains();
+    void listsTheCatalogue();
+    void describesAnOperation();
+    void helps_data();
+    void helps();
+    void pluginThatDoesNotLoad();
+    void severalPlugins();
+    void withoutAnyPlugin();
+    void unreadableFile();
+    void unwritableOutput();
+    void utf8WhateverTheLocale_data();
+    void utf8WhateverTheLocale();
+    void nothingRunsUntilAllIsChecked();
+
+private:
+    struct Outcome
+    {
+        int status = -1;
+        QString out;
+        QString err;
+    };
+
+    Outcome run(const QStringList &arguments, const QString &locale = {}) const;
+    void write(const QString &name, const QByteArray &content) const;
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+namespace {
+
+const char sampleTask[] = R"({
+    "variables": {
+        "line": {"type": "string", "value": "key=value;"},
+        "part": {"type": "string"},
+        "parts": {"type": "list", "value": ["a", 1]},
+        "count": {"type": "int", "value": 3},
+        "ratio": {"type": "double", "value": 0.5},
+        "done": {"type": "bool"}
+    },
+    "steps": [{"type": "text.append", "sourceText": "$line", "appendText": "!", "resultVar": "part"}]
+})";
+
+const char warningTask[] = R"({
+    "variables": { "n": {"type": "int"} },
+    "steps": [{"type": "text.append", "resultVar": "n"}, {"type": "text.append"}]
+})";
+
+} // namespace
+
+void OprunTest::initTestCase()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_folder->isValid());
+    write("task.json", sampleTask);
+    write("warn.json", warningTask);
+    write("任务.json", sampleTask);
+}
+
+OprunTest::Outcome OprunTest::run(const QStringList &arguments, const QString &locale) const
+{
+    QProcess process;
+    process.setWorkingDirectory(m_folder->path());
+    if (!locale.isEmpty()) {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("LC_ALL", locale);
+        process.setProcessEnvironment(environment);
+    }
+    process.start(OPRUN_FILE, arguments);
+    if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
+        return {-1, {}, process.errorString()};
+    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+            QString::fromUtf8(process.readAllStandardError())};
+}
+
+void OprunTest::write(const QString &name, const QByteArray &content) const
+{
+    QFile file(m_folder->filePath(name));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(content), qint64(content.size()));
+}
+
+void OprunTest::runsTasks_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QString>("out");
+    QTest::addColumn<QString>("err");
+
+    const QString warnings = "oprun: warn.json: steps[0] (text.append): "
+                             "[TextOp] 变量 \"n\" 未声明为字符串，已跳过\n"
+                             "oprun: warn.json: steps[1] (text.append): "
+                             "[TextAppend] 未指定结果变量，已跳过\n";
+    QTest::newRow("all variables")
+        << QStringList{"run", "task.json"} << 0
+        << "count = 3\ndone = false\nline = \"key=value;\"\npart = \"key=value;!\"\n"
+           "parts = [\"a\",1]\nratio = 0.5\n"
+        << "";
+    QTest::newRow("one variable, bare")
+        << QStringList{"run", "task.json", "--print", "part"} << 0 << "key=value;!\n" << "";
+    QTest::newRow("several, in the order asked for")
+        << QStringList{"run", "--print", "parts", "--print=count", "task.json"} << 0
+        << "[\"a\",1]\n3\n" << "";
+    QTest::newRow("set")
+        << QStringList{"run", "task.json", "--set", "line=a=b", "--print", "part"} << 0 << "a=b!\n"
+        << "";
+    QTest::newRow("set by type")
+        << QStringList{"run", "task.json", "--set", "count=-8", "--set", "ratio=1e3", "--set",
+                       "done=true", "--set", "parts=[[1],\"x\"]", "--set", "line="}
+        << 0
+        << "count = -8\ndone = true\nline = \"\"\npart = \"!\"\nparts = [[1],\"x\"]\nratio = 1000\n"
+        << "";
+    QTest::newRow("a warning is no failure")
+        << QStringList{"run", "warn.json"} << 0 << "n = 0\n" << warnings;
+    QTest::newRow("strict") << QStringList{"run", "warn.json", "--strict"} << 1 << "n = 0\n"
+                            << warnings;
+    QTest::newRow("strict without a warning")
+        << QStringList{"run", "task.json", "--strict", "--print", "part"} << 0 << "key=value;!\n"
+        << "";
+}
+
+void OprunTest::runsTasks()
+{
+    QFETCH(QStringList, arguments);
+    const Outcome outcome = run(arguments);
+    QTEST(outcome.err, "err");
+    QTEST(outcome.out, "out");
+    QTEST(outcome.status, "status");
+}
+
+void OprunTest::refuses_data()
+{
+    QTest::addColumn<QByteArray>("task");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("err");
+
+    const QByteArray valid = sampleTask;
+    const QStringList plain{"run", "bad.json"};
+    const auto row = [](const char *name, const QByteArray &task, const QStringList &arguments,
+                        const char *err) { QTest::newRow(name) << task << arguments << err; };
+
+    // Of the command line.
+    row("no command", valid, {},
+        "no command; expected catalog, describe, run, explain. Try \"oprun --help\".");
+    row("unknown command", valid, {"walk"},
+        "no command \"walk\"; expected catalog, describe, run, explain. Try \"oprun --help\".");
+    row("unknown option", valid, {"run", "bad.json", "--fast"},
+        "Unknown option 'fast'. Try \"oprun --help\".");
+    row("unknown option alone", valid, {"--fast"}, "Unknown option 'fast'. Try \"oprun --help\".");
+    row("option of another command", valid, {"catalog", "--trace"},
+        "Unknown option 'trace'. Try \"oprun --help\".");
+    row("option without its value", valid, {"run", "bad.json", "--set"},
+        "Missing value after '--set'. Try \"oprun --help\".");
+    row("no task", valid, {"run"},
+        "run: 0 arguments; expected TASK.json. Try \"oprun --help\".");
+    row("two tasks", valid, {"run", "a", "b"},
+        "run: 2 arguments; expected TASK.json. Try \"oprun --help\".");
+    row("argument too many", valid, {"catalog", "x"},
+        "catalog: 1 arguments; expected none. Try \"oprun --help\".");
+    row("unknown type to describe", valid, {"describe", "text.glue"},
+        "no operation \"text.glue\"; expected text.append");
+    row("set without a value", valid, {"run", "bad.json", "--set", "line"},
+        "--set: \"line\"; expected NAME=TEXT");
+    row("set of an unknown variable", valid, {"run", "bad.json", "--set", "Line=x"},
+        "--set: the task has no variable \"Line\"; "
+        "expected count, done, line, part, parts, ratio");
+    row("set of an unfit value", valid, {"run", "bad.json", "--set", "count=three"},
+        "--set count: \"three\"; expected a whole number from -2147483648 to 2147483647");
+    row("print of an unknown variable", valid, {"run", "bad.json", "--print", "x"},
+        "--print: the task has no variable \"x\"; "
+        "expected count, done, line, part, parts, ratio");
+    row("print without any variable", "{\"steps\": []}", {"run", "bad.json", "--print", "x"},
+        "--print: the task has no variable \"x\"; expected none at all");
+
+    // Of the task file.
+    row("no file", valid, {"run", "missing.json"},
+        "missing.json: cannot be read (No such file or directory)");
+    row("no file to explain", valid, {"explain", "missing.json"},
+        "missing.json: cannot be read (No such file or directory)");
+    row("malformed", "{\n  \"steps\": [,]\n}", plain,
+        "bad.json: line 2, column 13: malformed JSON (illegal value)");
+    row("unknown key", "{\"steps\": [], \"name\": 1}", plain,
+        "bad.json: unknown key \"name\"; expected variables, steps");
+    row("unknown type", R"({"steps": [{"type": "text.glue"}]})", plain,
+        "bad.json: steps[0].type: \"text.glue\"; expected text.append");
+    row("unknown type to explain", R"({"steps": [{"type": "text.glue"}]})", {"explain", "bad.json"},
+        "bad.json: steps[0].type: \"text.glue\"; expected text.append");
+    row("unknown property", R"({"steps": [{"type": "text.append", "text": ""}]})", plain,
+        "bad.json: steps[0].text: text.append has no such property; "
+        "expected sourceText, appendText, resultVar");
+    row("unfit property", R"({"steps": [{"type": "text.append", "sourceText": true}]})", plain,
+        "bad.json: steps[0].sourceText: true; expected a string");
+    row("unknown value type", R"({"variables": {"a": {"type": "text"}}, "steps": []})", plain,
+        "bad.json: variables.a.type: \"text\"; expected int, double, string, bool, list, table");
+    row("unfit value", R"({"variables": {"a": {"type": "bool", "value": 1}}, "steps": []})", plain,
+        "bad.json: variables.a.value: 1; expected true or false");
+}
+
+void OprunTest::refuses()
+{
+    QFETCH(QByteArray, task);
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, err);
+    write("bad.json", task);
+    const Outcome outcome = run(arguments);
+    QCOMPARE(outcome.err, "oprun: " + err + '\n');
+    QCOMPARE(outcome.out, QString());
+    QCOMPARE(outcome.status, 2);
+}
+
+void OprunTest::printsJson()
+{
+    const Outcome all = run({"run", "task.json", "--json"});
+    const QJsonObject object = QJsonDocument::fromJson(all.out.toUtf8()).object();
+    QCOMPARE(object.keys(), QStringList({"count", "done", "line", "part", "parts", "ratio"}));
+    QCOMPARE(object.value("part"), QJsonValue("key=value;!"));
+    QCOMPARE(object.value("parts"), QJsonValue(QJsonArray{"a", 1}));
+
+    const Outcome one = run({"run", "task.json", "--json", "--print", "count"});
+    QCOMPARE(QJsonDocument::fromJson(one.out.toUtf8()).object(), (QJsonObject{{"count", 3}}));
+}
+
+void OprunTest::tracesSteps()
+{
+    const Outcome outcome = run({"run", "task.json", "--trace", "--print", "part"});
+    QCOMPARE(outcome.out, QString("key=value;!\n"));
+    QCOMPARE(outcome.err, QString("steps[0]  添加文本: $line + ! -> $part\n"
+                                  "          part = \"key=value;!\"\n"));
+    const Outcome warned = run({"run", "warn.json", "--trace", "--strict"});
+    QCOMPARE(warned.err,
+             QString("steps[0]  添加文本:  +  -> $n\n"
+                     "          warning: [TextOp] 变量 \"n\" 未声明为字符串，已跳过\n"
+                     "steps[1]  添加文本:  +  -> \n"
+                     "          warning: [TextAppend] 未指定结果变量，已跳过\n"));
+    QCOMPARE(warned.status, 1);
+}
+
+void OprunTest::explains()
+{
+    const Outcome outcome = run({"explain", "task.json"});
+    QCOMPARE(outcome.out, QString("steps[0]  添加文本: $line + ! -> $part\n"
+                                  "          将 ! 添加到 $line 之后，存入 $part\n"));
+    QCOMPARE(outcome.err, QString());
+    QCOMPARE(outcome.status, 0);
+}
+
+void OprunTest::listsTheCatalogue()
+{
+    const Outcome text = run({"catalog"});
+    QCOMPARE(text.out.section('\n', 0, 1),
+             QString("文本\n  text.append  添加文本  :/images/text_append.svg"));
+
+    const Outcome json = run({"catalog", "--json"});
+    const QJsonArray roots =
+        QJsonDocument::fromJson(json.out.toUtf8()).object().value("roots").toArray();
+    QCOMPARE(roots.size(), 1);
+    const QJsonObject root = roots.first().toObject();
+    QCOMPARE(root.value("root"), QJsonValue("文本"));
+    QCOMPARE(root.value("weight"), QJsonValue(500));
+    const QJsonObject expected{{"typeId", "text.append"},
+                               {"name", "添加文本"},
+                               {"icon", ":/images/text_append.svg"},
+                               {"weight", 0}};
+    QCOMPARE(root.value("operations").toArray().first().toObject(), expected);
+}
+
+void OprunTest::describesAnOperation()
+{
+    const Outcome text = run({"describe", "text.append"});
+    QCOMPARE(text.out,
+             QString("text.append  添加文本  :/images/text_append.svg\n"
+                     "PROPERTY    LABEL                   EDITOR          DEFAULT  REMARKS\n"
+                     "sourceText  原文本                  VARREF          \"\"       "
+                     "varref_kind string\n"
+                     "appendText  要添加的文本            VARREF          \"\"       "
+                     "varref_kind string\n"
+                     "resultVar   新文本保存到字符串变量  VARNAME:STRING  \"\"       "
+                     "varname_type string\n"));
+
+    const Outcome json = run({"describe", "text.append", "--json"});
+    const QJsonObject operation = QJsonDocument::fromJson(json.out.toUtf8()).object();
+    QCOMPARE(operation.value("root"), QJsonValue("文本"));
+    const QJsonObject expected{{"name", "sourceText"},      {"type", "QString"},
+                               {"label", "原文本"},         {"default", ""},
+                               {"editor", "VARREF"},        {"varref_kind", "string"}};
+    QCOMPARE(operation.value("properties").toArray().first().toObject(), expected);
+}
+
+void OprunTest::helps_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("part");
+    QTest::newRow("program") << QStringList{"--help"} << "explain   Prints the summary";
+    QTest::newRow("short") << QStringList{"-h"} << "explain   Prints the summary";
+    QTest::newRow("command") << QStringList{"run", "--help"} << "--set <NAME=TEXT>";
+    QTest::newRow("version") << QStringList{"--version"} << "oprun 1.0.0\n";
+    QTest::newRow("version after a command") << QStringList{"run", "--version"} << "oprun 1.0.0\n";
+}
+
+void OprunTest::helps()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, part);
+    const Outcome outcome = run(arguments);
+    QVERIFY2(outcome.out.contains(part), qPrintable(outcome.out));
+    QCOMPARE(outcome.err, QString());
+    QCOMPARE(outcome.status, 0);
+}
+
+void OprunTest::pluginThatDoesNotLoad()
+{
+    write("libNone.so", "not a library");
+    const Outcome outcome = run({"run", "task.json", "--plugin", "libNone.so"});
+    QVERIFY2(outcome.err.startsWith("oprun: libNone.so: cannot be loaded as a plug-in ("),
+             qPrintable(outcome.err));
+    QCOMPARE(outcome.err.count('\n'), 1);
+    QCOMPARE(outcome.out, QString());
+    QCOMPARE(outcome.status, 3);
+
+    const Outcome missing = run({"--plugin", "libMissing.so", "catalog"});
+    QCOMPARE(missing.err, QString("oprun: libMissing.so: cannot be loaded as a plug-in "
+                                  "(there is no such file)\n"));
+    QCOMPARE(missing.status, 3);
+}
+
+void OprunTest::severalPlugins()
+{
+    const Outcome both = run({"catalog", "--plugin", GREET_PLUGIN, "--plugin", PLUGIN_FILE});
+    QVERIFY(both.out.startsWith("文本\n"));
+    QVERIFY(both.out.endsWith("问候\n  greet.hello  问候  :/images/greet_hello.svg\n"));
+
+    write("greet.json", R"({"variables": {"r": {"type": "string"}}, "steps": [
+          {"type": "greet.hello", "who": "世界", "resultVar": "r"}]})");
+    const Outcome greeted = run({"run", "greet.json", "--plugin", GREET_PLUGIN, "--print", "r"});
+    QCOMPARE(greeted.out, QString("你好，世界\n"));
+}
+
+void OprunTest::withoutAnyPlugin()
+{
+    // A copy of the program in a folder of its own finds nothing beside it.
+    const QString copy = m_folder->filePath("oprun");
+    QVERIFY(QFile::copy(OPRUN_FILE, copy));
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("LD_LIBRARY_PATH", LIBRARY_FOLDER);
+    process.setProcessEnvironment(environment);
+    process.start(copy, {"catalog"});
+    QVERIFY(process.waitForFinished());
+    const QString err = QString::fromUtf8(process.readAllStandardError());
+    QVERIFY2(err.startsWith("oprun: no plug-in found in "), qPrintable(err));
+    QVERIFY(err.endsWith("; expected one there or --plugin FILE\n"));
+    QCOMPARE(process.exitCode(), 3);
+}
+
+void OprunTest::unreadableFile()
+{
+    const Outcome folder = run({"run", "."});
+    QVERIFY2(folder.err.startsWith("oprun: .: cannot be read ("), qPrintable(folder.err));
+    QCOMPARE(folder.status, 2);
+}
+
+void OprunTest::unwritableOutput()
+{
+    if (!QFile::exists("/dev/full"))
+        QSKIP("needs /dev/full");
+    QProcess process;
+    process.setWorkingDirectory(m_folder->path());
+    process.setStandardOutputFile("/dev/full");
+    process.start(OPRUN_FILE, {"run", "task.json"});
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(QString::fromUtf8(process.readAllStandardError()),
+             QString("oprun: standard output: cannot be written (No space left on device)\n"));
+    QCOMPARE(process.exitCode(), 2);
+}
+
+void OprunTest::utf8WhateverTheLocale_data()
+{
+    QTest::addColumn<QString>("locale");
+    for (const char *locale : {"C", "C.UTF-8", "POSIX", "zh_CN.GB18030", "de_DE"})
+        QTest::newRow(locale) << locale;
+}
+
+void OprunTest::utf8WhateverTheLocale()
+{
+    QFETCH(QString, locale);
+    const Outcome outcome = run({"run", "任务.json", "--set", "line=变量\U0001F600", "--print",
+                                 "part", "--trace"},
+                                locale);
+    QCOMPARE(outcome.out, QString("变量\U0001F600!\n"));
+    QCOMPARE(outcome.err, QString("steps[0]  添加文本: $line + ! -> $part\n"
+                                  "          part = \"变量\U0001F600!\"\n"));
+    QCOMPARE(outcome.status, 0);
+}
+
+void OprunTest::nothingRunsUntilAllIsChecked()
+{
+    write("late.json", R"({"variables": {"n": {"type": "int"}}, "steps": [
+          {"type": "text.append", "resultVar": "n"}, {"type": "text.append", "x": 1}]})");
+    const Outcome outcome = run({"run", "late.json", "--trace"});
+    QCOMPARE(outcome.err.count('\n'), 1);
+    QVERIFY(outcome.err.startsWith("oprun: late.json: steps[1].x: "));
+    QCOMPARE(outcome.out, QString());
+    QCOMPARE(outcome.status, 2);
+}
+
+QTEST_GUILESS_MAIN(OprunTest)
+
+#include "OprunTest.moc"

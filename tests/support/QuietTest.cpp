@@ -1,0 +1,49 @@
+#include "tests/support/QuietTest.h"
+
+#include <QMutex>
+#include <QtTest>
+
+#include <utility>
+
+namespace {
+
+QMutex linesMutex;
+QStringList lines;
+QtMessageHandler previousHandler = nullptr;
+
+bool isPlain(const QMessageLogContext &context)
+{
+    return !context.file && context.line == 0 && !context.function && context.category
+        && qstrcmp(context.category, "default") == 0;
+}
+
+void collect(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    const QMutexLocker lock(&linesMutex);
+    if (type != QtWarningMsg)
+        lines.append(QStringLiteral("not a warning: ") + message);
+    else if (!isPlain(context))
+        lines.append(QStringLiteral("with a context: ") + message);
+    else
+        lines.append(message);
+}
+
+} // namespace
+
+QStringList QuietTest::takeWarnings()
+{
+    const QMutexLocker lock(&linesMutex);
+    return std::exchange(lines, {});
+}
+
+void QuietTest::init()
+{
+    takeWarnings();
+    previousHandler = qInstallMessageHandler(collect);
+}
+
+void QuietTest::cleanup()
+{
+    qInstallMessageHandler(previousHandler);
+    QCOMPARE(takeWarnings(), QStringList());
+}
