@@ -106,9 +106,9 @@ class Operation;
 ///     };
 ///
 /// **Calling order.** The host loads the library through Qt, obtains the root object once and casts
-/// it with `qobject_cast<IOperationPlugin *>`. It may ask for identity, manifest and capabilities at
-/// any time and as often as it likes; these calls have no side effects. It refuses a plug-in whose
-/// `apiVersion` differs from its own or that requires a capability it lacks. It then calls
+/// it with `qobject_cast<IOperationPlugin *>`. It may ask for identity, manifest and capabilities
+/// at any time and as often as it likes; these calls have no side effects. It refuses a plug-in
+/// whose `apiVersion` differs from its own or that requires a capability it lacks. It then calls
 /// `registerEditors` and `createPrototypes`. A step of a task is a `clone` of a prototype, with its
 /// properties set by the editor or read by `loadOperation`; before it runs, `setVariableScope` is
 /// called, then `doOperation`, any number of times.
@@ -118,9 +118,9 @@ class Operation;
 /// belongs to the host. Before the host unloads a library it deletes every object that came from it
 /// and lets go of every text that did: a `QStringLiteral` points into the library.
 ///
-/// **Threads.** All calls to the root object come on the host's main thread. An operation is used on
-/// one thread at a time, each with a scope of its own; a plug-in therefore keeps no state that its
-/// operations share and change.
+/// **Threads.** All calls to the root object come on the host's main thread. An operation is used
+/// on one thread at a time, each with a scope of its own; a plug-in therefore keeps no state that
+/// its operations share and change.
 ///
 /// **Values.** `VariableScope::get` gives an invalid `QVariant` for a variable that is not declared
 /// or has no value. It is not an error: a step takes it for an empty text or for "not a number".

@@ -54,8 +54,8 @@ public:
     /// A translated sentence that tells what the step does.
     virtual QString description() const = 0;
 
-    /// A new step of the same class with equal settings and `baseState`, without a scope. It belongs
-    /// to `parent`, or to the caller when there is none.
+    /// A new step of the same class with equal settings and `baseState`, without a scope. It
+    /// belongs to `parent`, or to the caller when there is none.
     virtual Operation *clone(QObject *parent) const = 0;
 
     /// Whether the step holds other steps. The base class says no.

@@ -39,12 +39,16 @@ Result<QJsonObject> readJsonObject(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        return Problem{Problem::Reason::UnreadableFile, path, {},
+        return Problem{Problem::Reason::UnreadableFile,
+                       path,
+                       {},
                        QStringLiteral("cannot be read (%1)").arg(file.errorString())};
     }
     const QByteArray json = file.readAll();
     if (file.error() != QFileDevice::NoError) {
-        return Problem{Problem::Reason::UnreadableFile, path, {},
+        return Problem{Problem::Reason::UnreadableFile,
+                       path,
+                       {},
                        QStringLiteral("cannot be read (%1)").arg(file.errorString())};
     }
     return parseJsonObject(json, path);

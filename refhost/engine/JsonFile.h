@@ -6,8 +6,8 @@
 #include <QJsonObject>
 #include <QString>
 
-/// Parses the JSON text of an object. A problem tells line and column, counted from 1; `file` is the
-/// name it is reported under.
+/// Parses the JSON text of an object. A problem tells line and column, counted from 1; `file` is
+/// the name it is reported under.
 Result<QJsonObject> parseJsonObject(const QByteArray &json, const QString &file);
 
 /// Reads the file at `path`, which holds a JSON object in UTF-8.

@@ -22,7 +22,9 @@ bool isInt(double number)
 
 Problem unfit(const QString &found, const QString &expected)
 {
-    return {Problem::Reason::UnfitValue, {}, {},
+    return {Problem::Reason::UnfitValue,
+            {},
+            {},
             QStringLiteral("%1; expected %2").arg(found, expected)};
 }
 
@@ -49,8 +51,8 @@ QString expectation(VarType type)
 
 bool isSpecialNumber(const QString &text)
 {
-    return text == QLatin1String("inf") || text == QLatin1String("-inf")
-        || text == QLatin1String("nan");
+    return text == QLatin1String("inf") || text == QLatin1String("-inf") ||
+           text == QLatin1String("nan");
 }
 
 /// A list element: invalid when JSON has something there that no list holds.

@@ -17,7 +17,9 @@ QStringList hostCapabilities()
 
 Problem notLoaded(const QString &path, const QString &reason)
 {
-    return {Problem::Reason::PluginNotLoaded, path, {},
+    return {Problem::Reason::PluginNotLoaded,
+            path,
+            {},
             QStringLiteral("cannot be loaded as a plug-in (%1)").arg(reason)};
 }
 

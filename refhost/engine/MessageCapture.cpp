@@ -1,9 +1,9 @@
 #include "refhost/engine/MessageCapture.h"
 
-#include <QMutex>
 #include <QtGlobal>
 
 #include <atomic>
+#include <mutex>
 #include <utility>
 
 namespace {
@@ -12,7 +12,7 @@ thread_local MessageCapture *currentCapture = nullptr;
 
 // The handler is the process's, the captures are their threads': it is installed with the first
 // capture and taken away with the last.
-QMutex handlerMutex;
+std::mutex handlerMutex;
 int captureCount = 0;
 std::atomic<QtMessageHandler> previousHandler = nullptr;
 
@@ -22,7 +22,7 @@ MessageCapture::MessageCapture()
     : m_outer(currentCapture)
 {
     currentCapture = this;
-    const QMutexLocker lock(&handlerMutex);
+    const std::lock_guard lock(handlerMutex);
     if (captureCount++ == 0)
         previousHandler = qInstallMessageHandler(&MessageCapture::handleMessage);
 }
@@ -30,7 +30,7 @@ MessageCapture::MessageCapture()
 MessageCapture::~MessageCapture()
 {
     {
-        const QMutexLocker lock(&handlerMutex);
+        const std::lock_guard lock(handlerMutex);
         if (--captureCount == 0)
             qInstallMessageHandler(previousHandler);
     }

@@ -12,8 +12,8 @@ constexpr int noWeight = std::numeric_limits<int>::max();
 
 bool comesBefore(const CatalogEntry &left, const CatalogEntry &right)
 {
-    return std::tie(left.rootWeight, left.root, left.weight)
-        < std::tie(right.rootWeight, right.root, right.weight);
+    return std::tie(left.rootWeight, left.root, left.weight) <
+           std::tie(right.rootWeight, right.root, right.weight);
 }
 
 QList<CatalogEntry> entriesOf(const LoadedPlugin &plugin)
@@ -51,9 +51,12 @@ void OperationCatalog::add(LoadedPlugin plugin)
     const QList<CatalogEntry> entries = entriesOf(plugin);
     for (const CatalogEntry &entry : entries) {
         if (find(entry.typeId)) {
-            m_failures.append({Problem::Reason::PluginNotLoaded, plugin.path(), {},
-                               QStringLiteral("contributes \"%1\", which another plug-in does already")
-                                   .arg(entry.typeId)});
+            m_failures.append(
+                {Problem::Reason::PluginNotLoaded,
+                 plugin.path(),
+                 {},
+                 QStringLiteral("contributes \"%1\", which another plug-in does already")
+                     .arg(entry.typeId)});
             return;
         }
     }

@@ -48,8 +48,8 @@ PropertySchema readProperty(const QMetaObject &meta, const QMetaProperty &proper
     schema.typeName = QString::fromLatin1(property.typeName());
     schema.label = annotation(meta, "prop", schema.name);
     schema.editor = annotation(meta, "editor", schema.name);
-    schema.choices = annotation(meta, "choices", schema.name)
-                         .split(QLatin1Char('|'), Qt::SkipEmptyParts);
+    schema.choices =
+        annotation(meta, "choices", schema.name).split(QLatin1Char('|'), Qt::SkipEmptyParts);
     readRestriction(meta, schema);
     readCondition(meta, schema);
     return schema;

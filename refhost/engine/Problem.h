@@ -8,8 +8,8 @@ struct Problem
     enum class Reason {
         UnreadableFile,
         MalformedJson,
-        WrongKind,       ///< another kind of JSON value than expected
-        UnknownKey,      ///< a key nobody reads, or a property the operation does not have
+        WrongKind,  ///< another kind of JSON value than expected
+        UnknownKey, ///< a key nobody reads, or a property the operation does not have
         MissingKey,
         UnknownType,     ///< no operation, or no variable type, of that name
         UnknownChoice,   ///< a mode label outside the choice list

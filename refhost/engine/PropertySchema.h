@@ -9,13 +9,13 @@
 struct PropertySchema
 {
     QString name;
-    QString typeName;         ///< the C++ type, such as "QString"
+    QString typeName; ///< the C++ type, such as "QString"
     QString label;
-    QString editor;           ///< the editor word, empty when the type decides
-    QString restrictionKey;   ///< "varref_kind", "varref_type" or "varname_type", may be empty
-    QString restriction;      ///< the type words of that key, separated by commas
-    QStringList choices;      ///< the labels of a choice list, in the order of the stored values
-    QString conditionName;    ///< the property that decides whether this one is shown, may be empty
+    QString editor;         ///< the editor word, empty when the type decides
+    QString restrictionKey; ///< "varref_kind", "varref_type" or "varname_type", may be empty
+    QString restriction;    ///< the type words of that key, separated by commas
+    QStringList choices;    ///< the labels of a choice list, in the order of the stored values
+    QString conditionName;  ///< the property that decides whether this one is shown, may be empty
     QList<int> conditionValues; ///< the values of that property which show this one
     QVariant defaultValue;
 };

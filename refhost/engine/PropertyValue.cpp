@@ -45,10 +45,10 @@ Result<QVariant> choiceFromJson(const QJsonValue &json, const PropertySchema &sc
     } else if (const Result<QVariant> number = variantFromJson(json, VarType::Int)) {
         return number;
     }
-    return unfit(json,
-                 QStringLiteral("one of %1, or the number of a choice")
-                     .arg(quotedList(schema.choices)),
-                 Problem::Reason::UnknownChoice);
+    return unfit(
+        json,
+        QStringLiteral("one of %1, or the number of a choice").arg(quotedList(schema.choices)),
+        Problem::Reason::UnknownChoice);
 }
 
 } // namespace

@@ -42,8 +42,9 @@ std::optional<Problem> unknownKey(const QJsonObject &json, const QStringList &kn
 {
     for (auto member = json.begin(); member != json.end(); ++member) {
         if (!known.contains(member.key())) {
-            return at(place, Reason::UnknownKey,
-                      QStringLiteral("unknown key %1; %2").arg(jsonText(member.key()), expected(known)));
+            return at(
+                place, Reason::UnknownKey,
+                QStringLiteral("unknown key %1; %2").arg(jsonText(member.key()), expected(known)));
         }
     }
     return std::nullopt;

@@ -4,8 +4,8 @@
 #include <QJsonValue>
 #include <QString>
 
-/// Results on standard output, everything else on standard error, both as UTF-8 whatever the locale.
-/// Results are held back until `flush`, so that a command that fails has printed none.
+/// Results on standard output, everything else on standard error, both as UTF-8 whatever the
+/// locale. Results are held back until `flush`, so that a command that fails has printed none.
 class Console
 {
 public:

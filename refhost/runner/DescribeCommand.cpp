@@ -75,8 +75,8 @@ QString remarks(const PropertySchema &property)
 
 void printOperation(const CatalogEntry &entry, const OperationSchema &schema, Console &console)
 {
-    console.print(QStringLiteral("%1  %2  %3").arg(entry.typeId, entry.prototype->typeName(),
-                                                   entry.prototype->icon()));
+    console.print(QStringLiteral("%1  %2  %3")
+                      .arg(entry.typeId, entry.prototype->typeName(), entry.prototype->icon()));
     QList<QStringList> rows{{QStringLiteral("PROPERTY"), QStringLiteral("LABEL"),
                              QStringLiteral("EDITOR"), QStringLiteral("DEFAULT"),
                              QStringLiteral("REMARKS")}};
@@ -117,9 +117,9 @@ int DescribeCommand::run(const QCommandLineParser &options, const QStringList &a
 {
     const CatalogEntry *const entry = catalog.find(arguments.first());
     if (!entry) {
-        console.complain(QStringLiteral("no operation %1; expected %2")
-                             .arg(jsonText(arguments.first()),
-                                  catalog.typeIds().join(QLatin1String(", "))));
+        console.complain(
+            QStringLiteral("no operation %1; expected %2")
+                .arg(jsonText(arguments.first()), catalog.typeIds().join(QLatin1String(", "))));
         return BadInput;
     }
     const OperationSchema schema(*entry->prototype);

@@ -3,6 +3,7 @@
 #include "refhost/engine/TaskReader.h"
 #include "refhost/runner/Console.h"
 #include "refhost/runner/ExitStatus.h"
+#include "refhost/runner/OneLine.h"
 
 #include "Operation.h"
 
@@ -32,8 +33,8 @@ int ExplainCommand::run(const QCommandLineParser &options, const QStringList &ar
     }
     int index = 0;
     for (const auto &step : task.value().steps) {
-        console.print(QStringLiteral("steps[%1]  ").arg(index++) + step->toString());
-        console.print(QStringLiteral("          ") + step->description());
+        console.print(QStringLiteral("steps[%1]  ").arg(index++) + oneLine(step->toString()));
+        console.print(QStringLiteral("          ") + oneLine(step->description()));
     }
     return Success;
 }

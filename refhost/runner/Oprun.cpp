@@ -55,8 +55,8 @@ std::optional<int> answerQuestion(const QCommandLineParser &parser)
     if (parser.isSet(Options::help())) {
         console.print(parser.helpText().trimmed());
     } else if (parser.isSet(Options::version())) {
-        console.print(QCoreApplication::applicationName() + QLatin1Char(' ')
-                      + QCoreApplication::applicationVersion());
+        console.print(QCoreApplication::applicationName() + QLatin1Char(' ') +
+                      QCoreApplication::applicationVersion());
     } else {
         return std::nullopt;
     }
@@ -75,10 +75,11 @@ QStringList chosenPlugins(const QCommandLineParser &options, const Console &cons
     if (options.isSet(Options::plugin()))
         return options.values(Options::plugin());
     const QStringList folders = pluginFolders(QCoreApplication::applicationDirPath());
-    const QStringList files = pluginFiles(folders);
+    QStringList files = pluginFiles(folders);
     if (files.isEmpty()) {
-        console.complain(QStringLiteral("no plug-in found in %1; expected one there or --plugin FILE")
-                             .arg(folders.join(QLatin1String(" or "))));
+        console.complain(
+            QStringLiteral("no plug-in found in %1; expected one there or --plugin FILE")
+                .arg(folders.join(QLatin1String(" or "))));
     }
     return files;
 }
@@ -145,8 +146,9 @@ int runOprun(const QStringList &arguments)
         return usageError(console, parser.errorText());
     if (const auto status = answerQuestion(parser))
         return *status;
-    return usageError(console, QStringLiteral("%1; expected %2.")
-                                   .arg(name.isEmpty() ? QStringLiteral("no command")
-                                                       : QStringLiteral("no command \"%1\"").arg(name),
-                                        commandNames(commands).join(QLatin1String(", "))));
+    return usageError(console,
+                      QStringLiteral("%1; expected %2.")
+                          .arg(name.isEmpty() ? QStringLiteral("no command")
+                                              : QStringLiteral("no command \"%1\"").arg(name),
+                               commandNames(commands).join(QLatin1String(", "))));
 }

@@ -5,6 +5,7 @@
 #include "refhost/engine/TaskRunner.h"
 #include "refhost/runner/Console.h"
 #include "refhost/runner/ExitStatus.h"
+#include "refhost/runner/OneLine.h"
 #include "refhost/runner/Options.h"
 
 #include "Operation.h"
@@ -31,8 +32,7 @@ QCommandLineOption printOption()
 
 QCommandLineOption traceOption()
 {
-    return {QStringLiteral("trace"),
-            QStringLiteral("Show on standard error what each step did.")};
+    return {QStringLiteral("trace"), QStringLiteral("Show on standard error what each step did.")};
 }
 
 QCommandLineOption strictOption()
@@ -46,7 +46,9 @@ Problem unknownVariable(const QString &option, const QString &name, const Task &
     QStringList names;
     for (const TaskVariable &variable : task.variables)
         names.append(variable.name);
-    return {Problem::Reason::UnknownVariable, {}, option,
+    return {Problem::Reason::UnknownVariable,
+            {},
+            option,
             QStringLiteral("the task has no variable %1; expected %2")
                 .arg(jsonText(name), names.isEmpty() ? QStringLiteral("none at all")
                                                      : names.join(QLatin1String(", ")))};
@@ -58,7 +60,9 @@ std::optional<Problem> applySetting(Task &task, const QString &setting)
     const QString place = QStringLiteral("--set");
     const int equals = setting.indexOf(QLatin1Char('='));
     if (equals < 0) {
-        return Problem{Problem::Reason::UnfitValue, {}, place,
+        return Problem{Problem::Reason::UnfitValue,
+                       {},
+                       place,
                        QStringLiteral("%1; expected NAME=TEXT").arg(jsonText(setting))};
     }
     const QString name = setting.left(equals);
@@ -79,7 +83,7 @@ std::optional<Problem> checkOptions(const QCommandLineParser &options, Task &tas
 {
     const QStringList settings = options.values(setOption());
     for (const QString &setting : settings) {
-        if (const auto problem = applySetting(task, setting))
+        if (auto problem = applySetting(task, setting))
             return problem;
     }
     const QStringList printed = options.values(printOption());
@@ -99,7 +103,7 @@ void traceStep(const StepReport &report, const VariableScope &scope, const Conso
 {
     const QString number = QStringLiteral("steps[%1]  ").arg(report.index);
     const QString indent(number.size(), QLatin1Char(' '));
-    console.note(number + report.step->toString());
+    console.note(number + oneLine(report.step->toString()));
     for (const QString &name : report.written)
         console.note(indent + name + QStringLiteral(" = ") + valueText(scope, name));
     for (const QString &line : report.warnings)
@@ -109,8 +113,9 @@ void traceStep(const StepReport &report, const VariableScope &scope, const Conso
 void complainOfStep(const StepReport &report, const QString &file, const Console &console)
 {
     for (const QString &line : report.warnings) {
-        console.complain(QStringLiteral("%1: steps[%2] (%3): %4")
-                             .arg(file, QString::number(report.index), report.step->typeId(), line));
+        console.complain(
+            QStringLiteral("%1: steps[%2] (%3): %4")
+                .arg(file, QString::number(report.index), report.step->typeId(), line));
     }
 }
 

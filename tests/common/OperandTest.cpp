@@ -43,8 +43,7 @@ VariableScope sampleScope()
     scope.declare("list", VarType::List, row({"a", 1, true}));
     scope.declare("strings", VarType::List, QStringList({"x", "y"}));
     scope.declare("empty", VarType::List);
-    scope.declare("table", VarType::Table,
-                  row({row({1, 2, 3}), row({4}), "not a row"}));
+    scope.declare("table", VarType::Table, row({row({1, 2, 3}), row({4}), "not a row"}));
     scope.declare("flat", VarType::Table, row({"a", "b"}));
     scope.declare(".x", VarType::String, "dotted");
     scope.declare("a b", VarType::String, "spaced");
@@ -94,27 +93,46 @@ void OperandTest::parse_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("path");
 
-    QTest::newRow("empty") << "" << false << "" << "";
-    QTest::newRow("null") << QString() << false << "" << "";
-    QTest::newRow("dollar alone") << "$" << false << "" << "";
-    QTest::newRow("literal") << "abc" << false << "" << "";
-    QTest::newRow("dollar later") << "a$b" << false << "" << "";
-    QTest::newRow("space before dollar") << " $a" << false << "" << "";
-    QTest::newRow("full-width dollar") << "＄a" << false << "" << "";
-    QTest::newRow("variable") << "$a" << true << "a" << "";
-    QTest::newRow("path") << "$a.x" << true << "a" << "x";
-    QTest::newRow("long path") << "$a.x.y" << true << "a" << "x.y";
-    QTest::newRow("dot first") << "$.x" << true << ".x" << "";
-    QTest::newRow("dot first, dot later") << "$.x.y" << true << ".x.y" << "";
-    QTest::newRow("dot only") << "$." << true << "." << "";
-    QTest::newRow("empty path") << "$a." << true << "a" << "";
-    QTest::newRow("two dollars") << "$$" << true << "$" << "";
-    QTest::newRow("case and spaces") << "$ A b . C " << true << " A b " << " C ";
-    QTest::newRow("braces") << "${a}" << true << "{a}" << "";
-    QTest::newRow("chinese") << "$姓名.Count" << true << "姓名" << "Count";
-    QTest::newRow("beyond the BMP") << "$\U0001F600.x" << true << "\U0001F600" << "x";
-    QTest::newRow("lone surrogate") << QString("$") + QChar(0xD800) << true
-                                    << QString(QChar(0xD800)) << "";
+    QTest::newRow("empty") << "" << false << ""
+                           << "";
+    QTest::newRow("null") << QString() << false << ""
+                          << "";
+    QTest::newRow("dollar alone") << "$" << false << ""
+                                  << "";
+    QTest::newRow("literal") << "abc" << false << ""
+                             << "";
+    QTest::newRow("dollar later") << "a$b" << false << ""
+                                  << "";
+    QTest::newRow("space before dollar") << " $a" << false << ""
+                                         << "";
+    QTest::newRow("full-width dollar") << "＄a" << false << ""
+                                       << "";
+    QTest::newRow("variable") << "$a" << true << "a"
+                              << "";
+    QTest::newRow("path") << "$a.x" << true << "a"
+                          << "x";
+    QTest::newRow("long path") << "$a.x.y" << true << "a"
+                               << "x.y";
+    QTest::newRow("dot first") << "$.x" << true << ".x"
+                               << "";
+    QTest::newRow("dot first, dot later") << "$.x.y" << true << ".x.y"
+                                          << "";
+    QTest::newRow("dot only") << "$." << true << "."
+                              << "";
+    QTest::newRow("empty path") << "$a." << true << "a"
+                                << "";
+    QTest::newRow("two dollars") << "$$" << true << "$"
+                                 << "";
+    QTest::newRow("case and spaces") << "$ A b . C " << true << " A b "
+                                     << " C ";
+    QTest::newRow("braces") << "${a}" << true << "{a}"
+                            << "";
+    QTest::newRow("chinese") << "$姓名.Count" << true << "姓名"
+                             << "Count";
+    QTest::newRow("beyond the BMP") << "$\U0001F600.x" << true << "\U0001F600"
+                                    << "x";
+    QTest::newRow("lone surrogate")
+        << QString("$") + QChar(0xD800) << true << QString(QChar(0xD800)) << "";
 }
 
 void OperandTest::parse()

@@ -20,15 +20,23 @@ void PresentationTest::variableName_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("shown");
-    QTest::newRow("empty") << "" << "";
+    QTest::newRow("empty") << ""
+                           << "";
     QTest::newRow("null") << QString() << "";
-    QTest::newRow("plain") << "r" << "$r";
-    QTest::newRow("with dollar") << "$r" << "$r";
-    QTest::newRow("dollar alone") << "$" << "$";
-    QTest::newRow("two dollars") << "$$r" << "$$r";
-    QTest::newRow("dollar later") << "a$" << "$a$";
-    QTest::newRow("space first") << " $r" << "$ $r";
-    QTest::newRow("chinese") << "结果" << "$结果";
+    QTest::newRow("plain") << "r"
+                           << "$r";
+    QTest::newRow("with dollar") << "$r"
+                                 << "$r";
+    QTest::newRow("dollar alone") << "$"
+                                  << "$";
+    QTest::newRow("two dollars") << "$$r"
+                                 << "$$r";
+    QTest::newRow("dollar later") << "a$"
+                                  << "$a$";
+    QTest::newRow("space first") << " $r"
+                                 << "$ $r";
+    QTest::newRow("chinese") << "结果"
+                             << "$结果";
 }
 
 void PresentationTest::variableName()
@@ -56,8 +64,7 @@ void PresentationTest::laterValuesFillMarkersInEarlierOnes()
     // With a = "%2", the second call finds %2 twice and fills both.
     QCOMPARE(fillMarkers("%1 + %2", QString("%2"), QString("b")), QString("b + b"));
     // With a lower number inside, the next value goes there and the rest moves on.
-    QCOMPARE(fillMarkers("%1 %2 %3", QString("a"), QString("%1"), QString("c")),
-             QString("a c %3"));
+    QCOMPARE(fillMarkers("%1 %2 %3", QString("a"), QString("%1"), QString("c")), QString("a c %3"));
 }
 
 QTEST_GUILESS_MAIN(PresentationTest)

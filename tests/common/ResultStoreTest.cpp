@@ -67,12 +67,18 @@ void ResultStoreTest::quotesTheName_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("shown");
-    QTest::newRow("chinese") << "结果" << "\"结果\"";
-    QTest::newRow("dollar") << "$r" << "\"$r\"";
-    QTest::newRow("spaces") << " r " << "\" r \"";
-    QTest::newRow("quote") << "a\"b" << "\"a\\\"b\"";
-    QTest::newRow("line feed") << "a\nb" << "\"a\\nb\"";
-    QTest::newRow("percent") << "%1" << "\"%1\"";
+    QTest::newRow("chinese") << "结果"
+                             << "\"结果\"";
+    QTest::newRow("dollar") << "$r"
+                            << "\"$r\"";
+    QTest::newRow("spaces") << " r "
+                            << "\" r \"";
+    QTest::newRow("quote") << "a\"b"
+                           << "\"a\\\"b\"";
+    QTest::newRow("line feed") << "a\nb"
+                               << "\"a\\nb\"";
+    QTest::newRow("percent") << "%1"
+                             << "\"%1\"";
 }
 
 void ResultStoreTest::quotesTheName()

@@ -93,9 +93,11 @@ void JsonValueTest::doesNotFit_data()
     QTest::newRow("text for a list")
         << "\"a\"" << 5 << "\"a\"; expected an array of strings, numbers, booleans and such arrays";
     QTest::newRow("null in a list")
-        << "[null]" << 5 << "[null]; expected an array of strings, numbers, booleans and such arrays";
+        << "[null]" << 5
+        << "[null]; expected an array of strings, numbers, booleans and such arrays";
     QTest::newRow("object deep in a list")
-        << "[[{}]]" << 5 << "[[{}]]; expected an array of strings, numbers, booleans and such arrays";
+        << "[[{}]]" << 5
+        << "[[{}]]; expected an array of strings, numbers, booleans and such arrays";
     QTest::newRow("flat table") << "[[1],2]" << 6
                                 << "[[1],2]; expected an array of rows, each an array";
     QTest::newRow("no type") << "1" << 0 << "1; expected a value of a known type";
@@ -158,7 +160,8 @@ void JsonValueTest::toJson_data()
     QTest::newRow("whole double") << QVariant(4.0) << "4";
     QTest::newRow("not a number") << QVariant(std::nan("")) << "\"nan\"";
     QTest::newRow("bool") << QVariant(true) << "true";
-    QTest::newRow("list") << QVariant(QVariantList{"a", 1, QVariantList{true}}) << "[\"a\",1,[true]]";
+    QTest::newRow("list") << QVariant(QVariantList{"a", 1, QVariantList{true}})
+                          << "[\"a\",1,[true]]";
     QTest::newRow("strings") << QVariant(QStringList({"a", "b"})) << "[\"a\",\"b\"]";
 }
 

@@ -4,6 +4,7 @@
 
 #include <QtTest>
 
+#include <atomic>
 #include <thread>
 
 class MessageCaptureTest : public QuietTest
@@ -74,19 +75,18 @@ void MessageCaptureTest::otherThreadsPass()
 
 void MessageCaptureTest::eachThreadHasItsOwn()
 {
-    std::vector<std::thread> threads;
     std::atomic<int> wrong = 0;
-    for (int number = 0; number < 4; ++number) {
-        threads.emplace_back([number, &wrong] {
-            const QByteArray text = "thread " + QByteArray::number(number);
-            for (int round = 0; round < 500; ++round) {
-                MessageCapture capture;
-                warn(text.constData());
-                if (capture.takeLines() != QStringList(QString::fromLatin1(text)))
-                    ++wrong;
-            }
-        });
-    }
+    const auto captureRepeatedly = [&wrong](int number) {
+        const QByteArray text = "thread " + QByteArray::number(number);
+        for (int round = 0; round < 500; ++round) {
+            MessageCapture capture;
+            warn(text.constData());
+            if (capture.takeLines() != QStringList(QString::fromLatin1(text)))
+                ++wrong;
+        }
+    };
+    std::thread threads[] = {std::thread(captureRepeatedly, 0), std::thread(captureRepeatedly, 1),
+                             std::thread(captureRepeatedly, 2)};
     for (std::thread &thread : threads)
         thread.join();
     QCOMPARE(wrong.load(), 0);

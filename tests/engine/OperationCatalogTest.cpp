@@ -44,7 +44,8 @@ void OperationCatalogTest::failures_data()
 {
     QTest::addColumn<QString>("file");
     QTest::addColumn<QString>("reason");
-    QTest::newRow("no file") << "/nowhere/libX.so" << "there is no such file";
+    QTest::newRow("no file") << "/nowhere/libX.so"
+                             << "there is no such file";
     QTest::newRow("folder") << QFileInfo(PLUGIN_FILE).path() << "there is no such file";
     QTest::newRow("no library") << SOURCE_FILE << "is not an ELF object";
 }
@@ -67,15 +68,18 @@ void OperationCatalogTest::refusedPlugins_data()
 {
     QTest::addColumn<QString>("file");
     QTest::addColumn<QString>("message");
-    QTest::newRow("interface") << STRANGER_PLUGIN
-                               << "cannot be loaded as a plug-in (its root object does not implement "
-                                  "com.quorlent.Brimwork.IOperationPlugin/1.0)";
-    QTest::newRow("version") << NEWER_PLUGIN
-                             << "cannot be loaded as a plug-in (it is built for interface version 3, "
-                                "this host has version 2)";
-    QTest::newRow("capability") << DEMANDING_PLUGIN
-                                << "cannot be loaded as a plug-in (it requires \"hasTeleport\", which "
-                                   "this host lacks)";
+    QTest::newRow("interface")
+        << STRANGER_PLUGIN
+        << "cannot be loaded as a plug-in (its root object does not implement "
+           "com.quorlent.Brimwork.IOperationPlugin/1.0)";
+    QTest::newRow("version")
+        << NEWER_PLUGIN
+        << "cannot be loaded as a plug-in (it is built for interface version 3, "
+           "this host has version 2)";
+    QTest::newRow("capability")
+        << DEMANDING_PLUGIN
+        << "cannot be loaded as a plug-in (it requires \"hasTeleport\", which "
+           "this host lacks)";
 }
 
 void OperationCatalogTest::refusedPlugins()

@@ -101,8 +101,9 @@ void TaskTest::refuses_data()
     row("unknown variable type", R"({"steps": [], "variables": {"a": {"type": "text"}}})",
         Reason::UnknownType,
         "variables.a.type: \"text\"; expected int, double, string, bool, list, table");
-    row("unknown key of a variable", R"({"steps": [], "variables": {"a": {"type": "int", "v": 1}}})",
-        Reason::UnknownKey, "variables.a: unknown key \"v\"; expected type, value");
+    row("unknown key of a variable",
+        R"({"steps": [], "variables": {"a": {"type": "int", "v": 1}}})", Reason::UnknownKey,
+        "variables.a: unknown key \"v\"; expected type, value");
     row("unfit value", R"({"steps": [], "variables": {"a": {"type": "int", "value": "1"}}})",
         Reason::UnfitValue,
         "variables.a.value: \"1\"; expected a whole number from -2147483648 to 2147483647");
@@ -186,10 +187,10 @@ void TaskTest::runs()
     VariableScope scope = task.value().startScope();
     QStringList log;
     runTask(task.value(), scope, [&](const StepReport &report) {
-        log.append(QString("%1 %2 [%3] [%4]")
-                       .arg(report.index)
-                       .arg(report.step->typeId(), report.written.join(','),
-                            report.warnings.join(',')));
+        log.append(
+            QString("%1 %2 [%3] [%4]")
+                .arg(report.index)
+                .arg(report.step->typeId(), report.written.join(','), report.warnings.join(',')));
     });
     QCOMPARE(log, QStringList({"0 text.append [part] []",
                                "1 text.append [] [[TextOp] 变量 \"count\" 未声明为字符串，已跳过]",

@@ -116,27 +116,65 @@ void TextAppendOperationTest::results_data()
     QTest::addColumn<QString>("added");
     QTest::addColumn<QString>("expected");
 
-    QTest::newRow("both empty") << "" << "" << "";
-    QTest::newRow("literals") << "abc" << "def" << "abcdef";
-    QTest::newRow("chinese") << "文本" << "操作" << "文本操作";
-    QTest::newRow("number-like source") << "007" << "x" << "7x";
-    QTest::newRow("number-like addition") << "abc" << "1.50" << "abc1.5";
-    QTest::newRow("two numbers are not added") << "1" << "2" << "12";
-    QTest::newRow("spaces of a text are kept") << " a " << " b" << " a  b";
-    QTest::newRow("spaces of a number are not") << " 5 " << " 6 " << "56";
-    QTest::newRow("reference") << "$s" << "!" << "text!";
-    QTest::newRow("reference added") << ">" << "$s" << ">text";
-    QTest::newRow("same variable twice") << "$s" << "$s" << "texttext";
-    QTest::newRow("result as source") << "$r" << "+" << "old+";
-    QTest::newRow("list") << "$list" << "." << "x, 1, y, z.";
-    QTest::newRow("list member") << "n=" << "$list.Count" << "n=3";
-    QTest::newRow("missing variable") << "$none" << "b" << "b";
-    QTest::newRow("unknown member") << "a" << "$s.Count" << "a";
-    QTest::newRow("dollar alone") << "$" << "$" << "$$";
-    QTest::newRow("no escapes") << "a" << "\\n" << "a\\n";
-    QTest::newRow("line feed") << "a\n" << "b" << "a\nb";
-    QTest::newRow("surrogates joined") << QString(QChar(0xD83D)) << QString(QChar(0xDE00))
-                                       << "\U0001F600";
+    QTest::newRow("both empty") << ""
+                                << ""
+                                << "";
+    QTest::newRow("literals") << "abc"
+                              << "def"
+                              << "abcdef";
+    QTest::newRow("chinese") << "文本"
+                             << "操作"
+                             << "文本操作";
+    QTest::newRow("number-like source") << "007"
+                                        << "x"
+                                        << "7x";
+    QTest::newRow("number-like addition") << "abc"
+                                          << "1.50"
+                                          << "abc1.5";
+    QTest::newRow("two numbers are not added") << "1"
+                                               << "2"
+                                               << "12";
+    QTest::newRow("spaces of a text are kept") << " a "
+                                               << " b"
+                                               << " a  b";
+    QTest::newRow("spaces of a number are not") << " 5 "
+                                                << " 6 "
+                                                << "56";
+    QTest::newRow("reference") << "$s"
+                               << "!"
+                               << "text!";
+    QTest::newRow("reference added") << ">"
+                                     << "$s"
+                                     << ">text";
+    QTest::newRow("same variable twice") << "$s"
+                                         << "$s"
+                                         << "texttext";
+    QTest::newRow("result as source") << "$r"
+                                      << "+"
+                                      << "old+";
+    QTest::newRow("list") << "$list"
+                          << "."
+                          << "x, 1, y, z.";
+    QTest::newRow("list member") << "n="
+                                 << "$list.Count"
+                                 << "n=3";
+    QTest::newRow("missing variable") << "$none"
+                                      << "b"
+                                      << "b";
+    QTest::newRow("unknown member") << "a"
+                                    << "$s.Count"
+                                    << "a";
+    QTest::newRow("dollar alone") << "$"
+                                  << "$"
+                                  << "$$";
+    QTest::newRow("no escapes") << "a"
+                                << "\\n"
+                                << "a\\n";
+    QTest::newRow("line feed") << "a\n"
+                               << "b"
+                               << "a\nb";
+    QTest::newRow("surrogates joined")
+        << QString(QChar(0xD83D)) << QString(QChar(0xDE00)) << "\U0001F600";
     QTest::newRow("null character") << QString(QChar(0)) << "b" << QString(QChar(0)) + "b";
 }
 
@@ -224,23 +262,50 @@ void TextAppendOperationTest::presentation_data()
     QTest::addColumn<QString>("summary");
     QTest::addColumn<QString>("sentence");
 
-    QTest::newRow("all set") << "$a" << "x" << "r" << "添加文本: $a + x -> $r"
+    QTest::newRow("all set") << "$a"
+                             << "x"
+                             << "r"
+                             << "添加文本: $a + x -> $r"
                              << "将 x 添加到 $a 之后，存入 $r";
-    QTest::newRow("result with dollar") << "$a" << "x" << "$r" << "添加文本: $a + x -> $r"
+    QTest::newRow("result with dollar") << "$a"
+                                        << "x"
+                                        << "$r"
+                                        << "添加文本: $a + x -> $r"
                                         << "将 x 添加到 $a 之后，存入 $r";
-    QTest::newRow("defaults") << "" << "" << "" << "添加文本:  +  -> "
+    QTest::newRow("defaults") << ""
+                              << ""
+                              << ""
+                              << "添加文本:  +  -> "
                               << "将  添加到  之后，存入 ";
-    QTest::newRow("numbers as stored") << "007" << "1.50" << "r" << "添加文本: 007 + 1.50 -> $r"
+    QTest::newRow("numbers as stored") << "007"
+                                       << "1.50"
+                                       << "r"
+                                       << "添加文本: 007 + 1.50 -> $r"
                                        << "将 1.50 添加到 007 之后，存入 $r";
-    QTest::newRow("marker of a later value") << "%3" << "x" << "r" << "添加文本: x + x -> $r"
+    QTest::newRow("marker of a later value") << "%3"
+                                             << "x"
+                                             << "r"
+                                             << "添加文本: x + x -> $r"
                                              << "将 x 添加到 $r 之后，存入 $r";
-    QTest::newRow("marker of an earlier value") << "%1" << "x" << "r" << "添加文本: x + $r -> %4"
+    QTest::newRow("marker of an earlier value") << "%1"
+                                                << "x"
+                                                << "r"
+                                                << "添加文本: x + $r -> %4"
                                                 << "将 x 添加到 $r 之后，存入 %3";
-    QTest::newRow("marker in the added text") << "a" << "%2" << "r" << "添加文本: a + $r -> %4"
+    QTest::newRow("marker in the added text") << "a"
+                                              << "%2"
+                                              << "r"
+                                              << "添加文本: a + $r -> %4"
                                               << "将 a 添加到 a 之后，存入 $r";
-    QTest::newRow("marker beyond the pattern") << "%9" << "x" << "r" << "添加文本: %9 + x -> $r"
+    QTest::newRow("marker beyond the pattern") << "%9"
+                                               << "x"
+                                               << "r"
+                                               << "添加文本: %9 + x -> $r"
                                                << "将 x 添加到 %9 之后，存入 $r";
-    QTest::newRow("percent signs") << "%" << "100%" << "r" << "添加文本: % + 100% -> $r"
+    QTest::newRow("percent signs") << "%"
+                                   << "100%"
+                                   << "r"
+                                   << "添加文本: % + 100% -> $r"
                                    << "将 100% 添加到 % 之后，存入 $r";
 }
 

@@ -29,7 +29,7 @@ private:
 
 namespace {
 
-const QStringList names{"append", "substring",  "pad",  "between", "trim", "reverse", "case",
+const QStringList names{"append",   "substring",  "pad",  "between", "trim", "reverse", "case",
                         "tonumber", "fromnumber", "join", "split",   "find", "replace"};
 
 QString iconPath(const QString &name)

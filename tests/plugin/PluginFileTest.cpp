@@ -63,10 +63,10 @@ void PluginFileTest::embeddedMetadata()
     const QByteArray className = "TextOperPlugin";
     QByteArray expected = "QTMETADATA !";
     expected += QByteArray("\x00\x05\x0f", 3) + requirements;
-    expected += "\xbf";                                                    // map
-    expected += QByteArray("\x02\x78") + char(identifier.size()) + identifier; // 2: long text
+    expected += "\xbf";                                                         // map
+    expected += QByteArray("\x02\x78") + char(identifier.size()) + identifier;  // 2: long text
     expected += QByteArray("\x03") + char(0x60 + className.size()) + className; // 3: short text
-    expected += "\xff";                                                    // end of the map
+    expected += "\xff";                                                         // end of the map
 
     QFile file(pluginFile);
     QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(file.errorString()));

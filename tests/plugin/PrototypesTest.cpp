@@ -217,8 +217,7 @@ void PrototypesTest::presentation()
     const OperationPtr operation = makeOperation(index);
     QVERIFY(operation->typeId().startsWith("text."));
     QCOMPARE(operation->root(), QString("文本"));
-    QCOMPARE(operation->icon(),
-             ":/images/text_" + operation->typeId().mid(5).toLower() + ".svg");
+    QCOMPARE(operation->icon(), ":/images/text_" + operation->typeId().mid(5).toLower() + ".svg");
     QVERIFY(!operation->typeName().isEmpty());
     QVERIFY(!operation->description().isEmpty());
     QVERIFY(operation->toString().startsWith(operation->typeName() + ": "));

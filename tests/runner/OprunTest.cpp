@@ -121,21 +121,23 @@ void OprunTest::runsTasks_data()
            "parts = [\"a\",1]\nratio = 0.5\n"
         << "";
     QTest::newRow("one variable, bare")
-        << QStringList{"run", "task.json", "--print", "part"} << 0 << "key=value;!\n" << "";
+        << QStringList{"run", "task.json", "--print", "part"} << 0 << "key=value;!\n"
+        << "";
     QTest::newRow("several, in the order asked for")
         << QStringList{"run", "--print", "parts", "--print=count", "task.json"} << 0
-        << "[\"a\",1]\n3\n" << "";
-    QTest::newRow("set")
-        << QStringList{"run", "task.json", "--set", "line=a=b", "--print", "part"} << 0 << "a=b!\n"
+        << "[\"a\",1]\n3\n"
         << "";
+    QTest::newRow("set") << QStringList{"run", "task.json", "--set", "line=a=b", "--print", "part"}
+                         << 0 << "a=b!\n"
+                         << "";
     QTest::newRow("set by type")
-        << QStringList{"run", "task.json", "--set", "count=-8", "--set", "ratio=1e3", "--set",
-                       "done=true", "--set", "parts=[[1],\"x\"]", "--set", "line="}
+        << QStringList{"run",   "task.json", "--set", "count=-8",          "--set", "ratio=1e3",
+                       "--set", "done=true", "--set", "parts=[[1],\"x\"]", "--set", "line="}
         << 0
         << "count = -8\ndone = true\nline = \"\"\npart = \"!\"\nparts = [[1],\"x\"]\nratio = 1000\n"
         << "";
-    QTest::newRow("a warning is no failure")
-        << QStringList{"run", "warn.json"} << 0 << "n = 0\n" << warnings;
+    QTest::newRow("a warning is no failure") << QStringList{"run", "warn.json"} << 0 << "n = 0\n"
+                                             << warnings;
     QTest::newRow("strict") << QStringList{"run", "warn.json", "--strict"} << 1 << "n = 0\n"
                             << warnings;
     QTest::newRow("strict without a warning")
@@ -175,8 +177,7 @@ void OprunTest::refuses_data()
         "Unknown option 'trace'. Try \"oprun --help\".");
     row("option without its value", valid, {"run", "bad.json", "--set"},
         "Missing value after '--set'. Try \"oprun --help\".");
-    row("no task", valid, {"run"},
-        "run: 0 arguments; expected TASK.json. Try \"oprun --help\".");
+    row("no task", valid, {"run"}, "run: 0 arguments; expected TASK.json. Try \"oprun --help\".");
     row("two tasks", valid, {"run", "a", "b"},
         "run: 2 arguments; expected TASK.json. Try \"oprun --help\".");
     row("argument too many", valid, {"catalog", "x"},
@@ -251,11 +252,10 @@ void OprunTest::tracesSteps()
     QCOMPARE(outcome.err, QString("steps[0]  添加文本: $line + ! -> $part\n"
                                   "          part = \"key=value;!\"\n"));
     const Outcome warned = run({"run", "warn.json", "--trace", "--strict"});
-    QCOMPARE(warned.err,
-             QString("steps[0]  添加文本:  +  -> $n\n"
-                     "          warning: [TextOp] 变量 \"n\" 未声明为字符串，已跳过\n"
-                     "steps[1]  添加文本:  +  -> \n"
-                     "          warning: [TextAppend] 未指定结果变量，已跳过\n"));
+    QCOMPARE(warned.err, QString("steps[0]  添加文本:  +  -> $n\n"
+                                 "          warning: [TextOp] 变量 \"n\" 未声明为字符串，已跳过\n"
+                                 "steps[1]  添加文本:  +  -> \n"
+                                 "          warning: [TextAppend] 未指定结果变量，已跳过\n"));
     QCOMPARE(warned.status, 1);
 }
 
@@ -304,9 +304,9 @@ void OprunTest::describesAnOperation()
     const Outcome json = run({"describe", "text.append", "--json"});
     const QJsonObject operation = QJsonDocument::fromJson(json.out.toUtf8()).object();
     QCOMPARE(operation.value("root"), QJsonValue("文本"));
-    const QJsonObject expected{{"name", "sourceText"},      {"type", "QString"},
-                               {"label", "原文本"},         {"default", ""},
-                               {"editor", "VARREF"},        {"varref_kind", "string"}};
+    const QJsonObject expected{{"name", "sourceText"}, {"type", "QString"},
+                               {"label", "原文本"},    {"default", ""},
+                               {"editor", "VARREF"},   {"varref_kind", "string"}};
     QCOMPARE(operation.value("properties").toArray().first().toObject(), expected);
 }
 
@@ -407,9 +407,8 @@ void OprunTest::utf8WhateverTheLocale_data()
 void OprunTest::utf8WhateverTheLocale()
 {
     QFETCH(QString, locale);
-    const Outcome outcome = run({"run", "任务.json", "--set", "line=变量\U0001F600", "--print",
-                                 "part", "--trace"},
-                                locale);
+    const Outcome outcome = run(
+        {"run", "任务.json", "--set", "line=变量\U0001F600", "--print", "part", "--trace"}, locale);
     QCOMPARE(outcome.out, QString("变量\U0001F600!\n"));
     QCOMPARE(outcome.err, QString("steps[0]  添加文本: $line + ! -> $part\n"
                                   "          part = \"变量\U0001F600!\"\n"));

@@ -7,7 +7,8 @@ QStringList annotationsOf(const QMetaObject &meta)
     QStringList annotations;
     for (int i = meta.classInfoOffset(); i < meta.classInfoCount(); ++i) {
         const QMetaClassInfo info = meta.classInfo(i);
-        annotations.append(QString::fromUtf8(info.name()) + " = " + QString::fromUtf8(info.value()));
+        annotations.append(QString::fromUtf8(info.name()) + " = " +
+                           QString::fromUtf8(info.value()));
     }
     return annotations;
 }

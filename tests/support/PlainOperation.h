@@ -17,7 +17,7 @@ public:
     QString typeId() const override { return {}; }
     QString typeName() const override { return {}; }
     QString icon() const override { return {}; }
-    void doOperation() const override { }
+    void doOperation() const override {}
     QString toString() const override { return {}; }
     QString description() const override { return {}; }
     Operation *clone(QObject *) const override { return nullptr; }

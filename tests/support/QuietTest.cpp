@@ -1,25 +1,25 @@
 #include "tests/support/QuietTest.h"
 
-#include <QMutex>
 #include <QtTest>
 
+#include <mutex>
 #include <utility>
 
 namespace {
 
-QMutex linesMutex;
+std::mutex linesMutex;
 QStringList lines;
 QtMessageHandler previousHandler = nullptr;
 
 bool isPlain(const QMessageLogContext &context)
 {
-    return !context.file && context.line == 0 && !context.function && context.category
-        && qstrcmp(context.category, "default") == 0;
+    return !context.file && context.line == 0 && !context.function && context.category &&
+           qstrcmp(context.category, "default") == 0;
 }
 
 void collect(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
-    const QMutexLocker lock(&linesMutex);
+    const std::lock_guard lock(linesMutex);
     if (type != QtWarningMsg)
         lines.append(QStringLiteral("not a warning: ") + message);
     else if (!isPlain(context))
@@ -32,7 +32,7 @@ void collect(QtMsgType type, const QMessageLogContext &context, const QString &m
 
 QStringList QuietTest::takeWarnings()
 {
-    const QMutexLocker lock(&linesMutex);
+    const std::lock_guard lock(linesMutex);
     return std::exchange(lines, {});
 }
 

@@ -16,4 +16,5 @@ struct RecordForm
 QByteArray saveRecord(const Operation &operation, RecordForm form = {});
 
 /// Reads `record` into `operation`; the state of the stream afterwards.
-QDataStream::Status loadRecord(Operation &operation, const QByteArray &record, RecordForm form = {});
+QDataStream::Status loadRecord(Operation &operation, const QByteArray &record,
+                               RecordForm form = {});

@@ -1,0 +1,48 @@
+# Sourced by the other scripts: changes to the project's folder, installs what is missing, and
+# configures and builds the release preset.
+
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+# What building and testing needs, as Debian and Ubuntu call it.
+needed_packages=(g++ cmake ninja-build qtbase5-dev qtbase5-dev-tools libqt5svg5-dev fonts-dejavu-core)
+
+as_root() {
+    if [[ $EUID -eq 0 ]]; then
+        "$@"
+    elif command -v sudo >/dev/null; then
+        echo "-- running with sudo: $*"
+        sudo "$@"
+    else
+        echo "-- these packages have to be installed first, by root: ${*: -1}" >&2
+        return 1
+    fi
+}
+
+# Installs those of the given packages that are not there yet.
+install_packages() {
+    if ! command -v apt-get >/dev/null; then
+        echo "-- not a Debian or Ubuntu system. These are needed, under the names they have here:"
+        echo "   a C++17 compiler, CMake 3.25 or later, Ninja, Qt 5.15 (Core, Gui, Svg, Test), a font"
+        return
+    fi
+    local missing=() package
+    for package in "$@"; do
+        [[ $(dpkg-query -W -f='${Status}' "$package" 2>/dev/null) == *"ok installed" ]] \
+            || missing+=("$package")
+    done
+    [[ ${#missing[@]} -eq 0 ]] && return
+    echo "-- installing: ${missing[*]}"
+    as_root apt-get update -qq
+    as_root env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+# build_preset NAME [TARGET...]: configures it once, builds what has changed.
+build_preset() {
+    local preset=$1
+    shift
+    [[ -f build/$preset/build.ninja ]] || cmake --preset "$preset" -Wno-dev
+    cmake --build --preset "$preset" ${1:+--target "$@"}
+}
+
+install_packages "${needed_packages[@]}"
