@@ -33,8 +33,10 @@ int ExplainCommand::run(const QCommandLineParser &options, const QStringList &ar
     }
     int index = 0;
     for (const auto &step : task.value().steps) {
-        console.print(QStringLiteral("steps[%1]  ").arg(index++) + oneLine(step->toString()));
-        console.print(QStringLiteral("          ") + oneLine(step->description()));
+        const QString number = stepNumber(index++);
+        const QString indent(number.size(), QLatin1Char(' '));
+        console.print(number + oneLine(step->toString()));
+        console.print(indent + oneLine(step->description()));
     }
     return Success;
 }

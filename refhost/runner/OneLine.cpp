@@ -18,9 +18,9 @@ QString escaped(QChar control)
 
 bool breaksTheLine(QChar character)
 {
-    return character.category() == QChar::Other_Control
-        || character.category() == QChar::Separator_Line
-        || character.category() == QChar::Separator_Paragraph;
+    return character.category() == QChar::Other_Control ||
+           character.category() == QChar::Separator_Line ||
+           character.category() == QChar::Separator_Paragraph;
 }
 
 } // namespace
@@ -36,4 +36,9 @@ QString oneLine(const QString &text)
             line += character;
     }
     return line;
+}
+
+QString stepNumber(int index)
+{
+    return QStringLiteral("steps[%1]  ").arg(index);
 }

@@ -101,7 +101,7 @@ QString valueText(const VariableScope &scope, const QString &name)
 
 void traceStep(const StepReport &report, const VariableScope &scope, const Console &console)
 {
-    const QString number = QStringLiteral("steps[%1]  ").arg(report.index);
+    const QString number = stepNumber(report.index);
     const QString indent(number.size(), QLatin1Char(' '));
     console.note(number + oneLine(report.step->toString()));
     for (const QString &name : report.written)
