@@ -98,7 +98,7 @@ class Operation;
 ///             manifest.version = version();
 ///             manifest.apiVersion = 2;
 ///             manifest.typeIdPrefix = QStringLiteral("greet.");
-///             manifest.rootOrder = {{QStringLiteral("问候"), 900}};
+///             manifest.rootOrder = {{QStringLiteral("问候"), 100}};
 ///             manifest.typeOrder = {{QStringLiteral("greet.hello"), 0}};
 ///             return manifest;
 ///         }

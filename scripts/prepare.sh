@@ -9,12 +9,9 @@ needed_packages=(g++ cmake ninja-build qtbase5-dev qtbase5-dev-tools libqt5svg5-
 as_root() {
     if [[ $EUID -eq 0 ]]; then
         "$@"
-    elif command -v sudo >/dev/null; then
+    else
         echo "-- running with sudo: $*"
         sudo "$@"
-    else
-        echo "-- these packages have to be installed first, by root: ${*: -1}" >&2
-        return 1
     fi
 }
 
@@ -31,6 +28,10 @@ install_packages() {
             || missing+=("$package")
     done
     [[ ${#missing[@]} -eq 0 ]] && return
+    if [[ $EUID -ne 0 ]] && ! command -v sudo >/dev/null; then
+        echo "-- these packages have to be installed first, by root: ${missing[*]}" >&2
+        return 1
+    fi
     echo "-- installing: ${missing[*]}"
     as_root apt-get update -qq
     as_root env DEBIAN_FRONTEND=noninteractive \

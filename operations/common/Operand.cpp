@@ -106,7 +106,7 @@ int resolveIntOperand(VariableScope *scope, const QString &operand, int fallback
 int truncateToInt(double number)
 {
     using Limits = std::numeric_limits<int>;
-    // Compared one beyond the limits, which a double holds exactly; false for NaN.
-    const bool fits = number > Limits::min() - 1.0 && number < Limits::max() + 1.0;
+    // One beyond the largest int is a number a double holds exactly. A NaN fails both comparisons.
+    const bool fits = number >= Limits::min() && number < Limits::max() + 1.0;
     return fits ? static_cast<int>(number) : Limits::min();
 }

@@ -27,15 +27,15 @@ private Q_SLOTS:
 
 void OperationCatalogTest::severalPlugins()
 {
-    const OperationCatalog catalog({GREET_PLUGIN, PLUGIN_FILE});
+    const OperationCatalog catalog({PLUGIN_FILE, GREET_PLUGIN});
     QVERIFY2(catalog.failures().isEmpty(), qPrintable(catalog.failures().value(0).toString()));
     QCOMPARE(catalog.plugins().size(), std::size_t(2));
-    // By the weights of the roots, 500 before 900, not by the order of loading.
-    QCOMPARE(catalog.typeIds(), QStringList({"text.append", "greet.hello"}));
+    // By the weights of the roots, 100 before 500, not by name or by the order of loading.
+    QCOMPARE(catalog.typeIds(), QStringList({"greet.hello", "text.append"}));
     const CatalogEntry *const entry = catalog.find("greet.hello");
     QVERIFY(entry);
     QCOMPARE(entry->root, QString("问候"));
-    QCOMPARE(entry->rootWeight, 900);
+    QCOMPARE(entry->rootWeight, 100);
     QCOMPARE(entry->prototype->typeName(), QString("问候"));
     QVERIFY(!catalog.find("Text.append"));
 }
