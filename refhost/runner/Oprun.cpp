@@ -48,6 +48,11 @@ QString overview(const Commands &commands)
     return text + QStringLiteral("\n\"oprun COMMAND --help\" tells about one of them.");
 }
 
+QString listOr(const QStringList &words, const QString &none)
+{
+    return words.isEmpty() ? none : words.join(QLatin1Char(' '));
+}
+
 /// Answers --help and --version; the exit status if there was such a question.
 std::optional<int> answerQuestion(const QCommandLineParser &parser)
 {
@@ -112,13 +117,12 @@ int runCommand(const Command &command, QCommandLineParser &parser, const QString
         return usageError(console, parser.errorText());
     if (const auto status = answerQuestion(parser))
         return *status;
-    const int given = parser.positionalArguments().size() - 1;
-    if (given != command.arguments().size()) {
-        return usageError(console, QStringLiteral("%1: %2 arguments; expected %3.")
-                                       .arg(command.name(), QString::number(given),
-                                            command.arguments().isEmpty()
-                                                ? QStringLiteral("none")
-                                                : command.arguments().join(QLatin1Char(' '))));
+    const QStringList given = parser.positionalArguments().mid(1);
+    if (given.size() != command.arguments().size()) {
+        return usageError(console,
+                          QStringLiteral("%1: %2; expected %3.")
+                              .arg(command.name(), listOr(given, QStringLiteral("no argument")),
+                                   listOr(command.arguments(), QStringLiteral("none"))));
     }
     return runWithCatalog(command, parser, console);
 }

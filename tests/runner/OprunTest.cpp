@@ -177,11 +177,11 @@ void OprunTest::refuses_data()
         "Unknown option 'trace'. Try \"oprun --help\".");
     row("option without its value", valid, {"run", "bad.json", "--set"},
         "Missing value after '--set'. Try \"oprun --help\".");
-    row("no task", valid, {"run"}, "run: 0 arguments; expected TASK.json. Try \"oprun --help\".");
+    row("no task", valid, {"run"}, "run: no argument; expected TASK.json. Try \"oprun --help\".");
     row("two tasks", valid, {"run", "a", "b"},
-        "run: 2 arguments; expected TASK.json. Try \"oprun --help\".");
+        "run: a b; expected TASK.json. Try \"oprun --help\".");
     row("argument too many", valid, {"catalog", "x"},
-        "catalog: 1 arguments; expected none. Try \"oprun --help\".");
+        "catalog: x; expected none. Try \"oprun --help\".");
     row("unknown type to describe", valid, {"describe", "text.glue"},
         "no operation \"text.glue\"; expected text.append");
     row("set without a value", valid, {"run", "bad.json", "--set", "line"},
