@@ -1,14 +1,8 @@
 #include "operations/TextAppendOperation.h"
 
 #include "operations/common/Operand.h"
-#include "operations/common/OperationFrame.h"
 #include "operations/common/Presentation.h"
 #include "operations/common/ResultStore.h"
-
-TextAppendOperation::TextAppendOperation(QObject *parent)
-    : Operation(parent)
-{
-}
 
 QString TextAppendOperation::root() const
 {
@@ -48,24 +42,4 @@ void TextAppendOperation::run() const
     const QString source = resolveTextOperand(m_sourceText, scope);
     const QString added = resolveTextOperand(m_appendText, scope);
     storeStringResult(scope, m_resultVar, source + added);
-}
-
-void TextAppendOperation::doOperation() const
-{
-    OperationFrame::run(*this);
-}
-
-void TextAppendOperation::saveOperation(QDataStream &stream) const
-{
-    OperationFrame::save(*this, stream);
-}
-
-void TextAppendOperation::loadOperation(QDataStream &stream)
-{
-    OperationFrame::load(*this, stream);
-}
-
-Operation *TextAppendOperation::clone(QObject *parent) const
-{
-    return OperationFrame::clone(*this, parent);
 }

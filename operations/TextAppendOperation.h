@@ -1,5 +1,7 @@
 #pragma once
 
+#include "operations/common/OperationFrame.h"
+
 #include "Operation.h"
 
 #include <tuple>
@@ -24,7 +26,10 @@ class TextAppendOperation : public Operation
     Q_PROPERTY(QString resultVar READ resultVar WRITE setResultVar)
 
 public:
-    explicit TextAppendOperation(QObject *parent = nullptr);
+    explicit TextAppendOperation(QObject *parent = nullptr)
+        : Operation(parent)
+    {
+    }
 
     /// Operand: the text to start with.
     QString sourceText() const { return m_sourceText; }
@@ -42,12 +47,16 @@ public:
     QString typeId() const override;
     QString typeName() const override;
     QString icon() const override;
-    void doOperation() const override;
-    void saveOperation(QDataStream &stream) const override;
-    void loadOperation(QDataStream &stream) override;
     QString toString() const override;
     QString description() const override;
-    Operation *clone(QObject *parent) const override;
+
+    void doOperation() const override { OperationFrame::run(*this); }
+    void saveOperation(QDataStream &stream) const override { OperationFrame::save(*this, stream); }
+    void loadOperation(QDataStream &stream) override { OperationFrame::load(*this, stream); }
+    Operation *clone(QObject *parent) const override
+    {
+        return OperationFrame::clone(*this, parent);
+    }
 
 private:
     friend class OperationFrame;

@@ -3,6 +3,18 @@
 #include "plugin/Contribution.h"
 
 #include "operations/TextAppendOperation.h"
+#include "operations/TextBetweenOperation.h"
+#include "operations/TextCaseOperation.h"
+#include "operations/TextFindOperation.h"
+#include "operations/TextFromNumberOperation.h"
+#include "operations/TextJoinOperation.h"
+#include "operations/TextPadOperation.h"
+#include "operations/TextReplaceOperation.h"
+#include "operations/TextReverseOperation.h"
+#include "operations/TextSplitOperation.h"
+#include "operations/TextSubstringOperation.h"
+#include "operations/TextToNumberOperation.h"
+#include "operations/TextTrimOperation.h"
 
 namespace {
 
@@ -11,7 +23,13 @@ constexpr int interfaceVersion = 2;
 /// The operations in the order of the prototypes, each with its weight in the catalogue. The host
 /// sorts the catalogue by weight, so the two orders differ.
 constexpr Contribution contributions[] = {
-    contribution<TextAppendOperation>(0),
+    contribution<TextAppendOperation>(0),       contribution<TextSubstringOperation>(80),
+    contribution<TextPadOperation>(40),         contribution<TextBetweenOperation>(10),
+    contribution<TextTrimOperation>(90),        contribution<TextReverseOperation>(60),
+    contribution<TextCaseOperation>(120),       contribution<TextToNumberOperation>(100),
+    contribution<TextFromNumberOperation>(110), contribution<TextJoinOperation>(20),
+    contribution<TextSplitOperation>(30),       contribution<TextFindOperation>(70),
+    contribution<TextReplaceOperation>(50),
 };
 
 QStringList neededCapabilities()

@@ -1,5 +1,6 @@
 #include "operations/common/Operand.h"
 
+#include "operations/common/Truncation.h"
 #include "operations/common/ValueText.h"
 
 #include "VariableScope.h"
@@ -8,7 +9,6 @@
 #include <QVariantList>
 
 #include <algorithm>
-#include <limits>
 
 namespace {
 
@@ -101,12 +101,4 @@ int resolveIntOperand(VariableScope *scope, const QString &operand, int fallback
     bool isNumber = false;
     const double number = resolveNumberOperand(scope, operand, &isNumber);
     return isNumber ? truncateToInt(number) : fallback;
-}
-
-int truncateToInt(double number)
-{
-    using Limits = std::numeric_limits<int>;
-    // One beyond the largest int is a number a double holds exactly. A NaN fails both comparisons.
-    const bool fits = number >= Limits::min() && number < Limits::max() + 1.0;
-    return fits ? static_cast<int>(number) : Limits::min();
 }

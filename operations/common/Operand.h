@@ -29,7 +29,3 @@ double resolveNumberOperand(VariableScope *scope, const QString &operand, bool *
 /// The operand as an integer: the number converted with `truncateToInt`, or `fallback` when it is
 /// not a number.
 int resolveIntOperand(VariableScope *scope, const QString &operand, int fallback);
-
-/// `number` converted toward zero. Outside the range of `int`, infinite or NaN, it is the smallest
-/// `int`, so that callers see a negative number.
-int truncateToInt(double number);

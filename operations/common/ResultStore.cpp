@@ -1,5 +1,6 @@
 #include "operations/common/ResultStore.h"
 
+#include "operations/common/ValueConversion.h"
 #include "operations/common/Warning.h"
 
 #include "VariableScope.h"
@@ -13,5 +14,24 @@ bool storeStringResult(VariableScope *scope, const QString &name, const QString 
         return false;
     }
     scope->set(name, text);
+    return true;
+}
+
+bool storeNumberResult(VariableScope *scope, const QString &name, double value)
+{
+    if (!scope || name.isEmpty())
+        return false;
+    const VarType type = scope->typeOf(name);
+    if (type == VarType::None) {
+        warning() << "[TextOp] 变量" << name << "未声明，已跳过写入";
+        return false;
+    }
+    bool converts = false;
+    const QVariant converted = convertToVarType(value, type, &converts);
+    if (!converts) {
+        warning() << "[TextOp] 变量" << name << "数值类型不匹配，已跳过写入";
+        return false;
+    }
+    scope->set(name, converted);
     return true;
 }

@@ -16,3 +16,9 @@ QByteArray warningTag(const QMetaObject &operationClass)
     name.chop(static_cast<int>(qstrlen("Operation")));
     return '[' + name + ']';
 }
+
+void warnUnknownMode(const QMetaObject &operationClass, const char *what, int mode)
+{
+    const QByteArray line = warningTag(operationClass) + ' ' + what;
+    warning() << line.constData() << mode << "，已跳过";
+}

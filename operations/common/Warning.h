@@ -13,3 +13,6 @@ QDebug warning();
 /// How an operation signs its own lines: its class name less "Operation" in square brackets,
 /// "[TextAppend]".
 QByteArray warningTag(const QMetaObject &operationClass);
+
+/// Logs that the operation knows no such mode: `what` is the operation's word for it.
+void warnUnknownMode(const QMetaObject &operationClass, const char *what, int mode);

@@ -42,7 +42,7 @@ Result<QVariant> choiceFromJson(const QJsonValue &json, const PropertySchema &sc
         const int index = schema.choices.indexOf(json.toString());
         if (index >= 0)
             return QVariant(index);
-    } else if (const Result<QVariant> number = variantFromJson(json, VarType::Int)) {
+    } else if (Result<QVariant> number = variantFromJson(json, VarType::Int)) {
         return number;
     }
     return unfit(

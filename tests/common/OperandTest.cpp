@@ -73,8 +73,6 @@ private Q_SLOTS:
     void numberWithoutFlag();
     void integers_data();
     void integers();
-    void truncation_data();
-    void truncation();
 };
 
 void OperandTest::defaultRef()
@@ -337,37 +335,6 @@ void OperandTest::integers()
     QFETCH(int, expected);
     VariableScope scope = sampleScope();
     QCOMPARE(resolveIntOperand(&scope, operand, 77), expected);
-}
-
-void OperandTest::truncation_data()
-{
-    QTest::addColumn<double>("number");
-    QTest::addColumn<int>("expected");
-    const double infinity = std::numeric_limits<double>::infinity();
-    QTest::newRow("zero") << 0.0 << 0;
-    QTest::newRow("negative zero") << -0.0 << 0;
-    QTest::newRow("2.9") << 2.9 << 2;
-    QTest::newRow("-0.5") << -0.5 << 0;
-    QTest::newRow("-2.5") << -2.5 << -2;
-    QTest::newRow("largest") << 2147483647.0 << INT_MAX;
-    QTest::newRow("largest and a fraction") << 2147483647.9 << INT_MAX;
-    QTest::newRow("one too large") << 2147483648.0 << INT_MIN;
-    QTest::newRow("smallest") << -2147483648.0 << INT_MIN;
-    QTest::newRow("smallest and a fraction") << -2147483648.9 << INT_MIN;
-    QTest::newRow("next above the smallest") << -2147483647.9 << -2147483647;
-    QTest::newRow("one too small") << -2147483649.0 << INT_MIN;
-    QTest::newRow("huge") << 1e300 << INT_MIN;
-    QTest::newRow("infinite") << infinity << INT_MIN;
-    QTest::newRow("negative infinite") << -infinity << INT_MIN;
-    QTest::newRow("not a number") << std::numeric_limits<double>::quiet_NaN() << INT_MIN;
-    QTest::newRow("denormal") << 5e-324 << 0;
-}
-
-void OperandTest::truncation()
-{
-    QFETCH(double, number);
-    QFETCH(int, expected);
-    QCOMPARE(truncateToInt(number), expected);
 }
 
 QTEST_GUILESS_MAIN(OperandTest)

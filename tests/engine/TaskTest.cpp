@@ -81,9 +81,10 @@ void TaskTest::refuses_data()
     QTest::addColumn<QString>("text");
 
     using Reason = Problem::Reason;
-    const auto row = [](const char *name, const char *json, Reason reason, const char *text) {
+    const auto row = [](const char *name, const char *json, Reason reason, const QString &text) {
         QTest::newRow(name) << json << int(reason) << text;
     };
+    const QString allTypes = m_catalog->typeIds().join(", ");
     row("no steps", "{}", Reason::MissingKey, "steps: missing; expected an array of steps");
     row("steps no array", R"({"steps": {}})", Reason::WrongKind,
         "steps: {}; expected an array of steps");
@@ -110,11 +111,11 @@ void TaskTest::refuses_data()
     row("step no object", R"({"steps": [5]})", Reason::WrongKind,
         "steps[0]: 5; expected an object with \"type\" and properties");
     row("step without a type", R"({"steps": [{}]})", Reason::MissingKey,
-        "steps[0].type: missing; expected text.append");
+        "steps[0].type: missing; expected " + allTypes);
     row("unknown step type", R"({"steps": [{"type": "text.append"}, {"type": "text.glue"}]})",
-        Reason::UnknownType, "steps[1].type: \"text.glue\"; expected text.append");
+        Reason::UnknownType, "steps[1].type: \"text.glue\"; expected " + allTypes);
     row("type no string", R"({"steps": [{"type": 1}]})", Reason::UnknownType,
-        "steps[0].type: 1; expected text.append");
+        "steps[0].type: 1; expected " + allTypes);
     row("unknown property", R"({"steps": [{"type": "text.append", "source": ""}]})",
         Reason::UnknownKey,
         "steps[0].source: text.append has no such property; "

@@ -32,7 +32,10 @@ namespace {
 
 /// The prototypes in their order, with their weights.
 const QList<QPair<QString, int>> catalogue{
-    {"text.append", 0},
+    {"text.append", 0},       {"text.substring", 80}, {"text.pad", 40},   {"text.between", 10},
+    {"text.trim", 90},        {"text.reverse", 60},   {"text.case", 120}, {"text.toNumber", 100},
+    {"text.fromNumber", 110}, {"text.join", 20},      {"text.split", 30}, {"text.find", 70},
+    {"text.replace", 50},
 };
 
 } // namespace

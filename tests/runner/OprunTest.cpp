@@ -53,6 +53,10 @@ private:
 
 namespace {
 
+/// The operations in the order of the catalogue.
+const QString allTypes =
+    "text.append, text.between, text.join, text.split, text.pad, text.replace, text.reverse, text.find, text.substring, text.trim, text.toNumber, text.fromNumber, text.case";
+
 const char sampleTask[] = R"({
     "variables": {
         "line": {"type": "string", "value": "key=value;"},
@@ -163,7 +167,7 @@ void OprunTest::refuses_data()
     const QByteArray valid = sampleTask;
     const QStringList plain{"run", "bad.json"};
     const auto row = [](const char *name, const QByteArray &task, const QStringList &arguments,
-                        const char *err) { QTest::newRow(name) << task << arguments << err; };
+                        const QString &err) { QTest::newRow(name) << task << arguments << err; };
 
     // Of the command line.
     row("no command", valid, {},
@@ -183,7 +187,7 @@ void OprunTest::refuses_data()
     row("argument too many", valid, {"catalog", "x"},
         "catalog: x; expected none. Try \"oprun --help\".");
     row("unknown type to describe", valid, {"describe", "text.glue"},
-        "no operation \"text.glue\"; expected text.append");
+        "no operation \"text.glue\"; expected " + allTypes);
     row("set without a value", valid, {"run", "bad.json", "--set", "line"},
         "--set: \"line\"; expected NAME=TEXT");
     row("set of an unknown variable", valid, {"run", "bad.json", "--set", "Line=x"},
@@ -207,9 +211,9 @@ void OprunTest::refuses_data()
     row("unknown key", "{\"steps\": [], \"name\": 1}", plain,
         "bad.json: unknown key \"name\"; expected variables, steps");
     row("unknown type", R"({"steps": [{"type": "text.glue"}]})", plain,
-        "bad.json: steps[0].type: \"text.glue\"; expected text.append");
+        "bad.json: steps[0].type: \"text.glue\"; expected " + allTypes);
     row("unknown type to explain", R"({"steps": [{"type": "text.glue"}]})", {"explain", "bad.json"},
-        "bad.json: steps[0].type: \"text.glue\"; expected text.append");
+        "bad.json: steps[0].type: \"text.glue\"; expected " + allTypes);
     row("unknown property", R"({"steps": [{"type": "text.append", "text": ""}]})", plain,
         "bad.json: steps[0].text: text.append has no such property; "
         "expected sourceText, appendText, resultVar");
@@ -272,7 +276,12 @@ void OprunTest::listsTheCatalogue()
 {
     const Outcome text = run({"catalog"});
     QCOMPARE(text.out.section('\n', 0, 1),
-             QString("文本\n  text.append  添加文本  :/images/text_append.svg"));
+             QString("文本\n  text.append      添加文本    :/images/text_append.svg"));
+    QStringList listed;
+    const QStringList lines = text.out.split('\n', Qt::SkipEmptyParts).mid(1);
+    for (const QString &line : lines)
+        listed.append(line.simplified().section(' ', 0, 0));
+    QCOMPARE(listed.join(", "), allTypes);
 
     const Outcome json = run({"catalog", "--json"});
     const QJsonArray roots =
