@@ -95,6 +95,16 @@ std::unique_ptr<Operation> OperationSuite::make(const Settings &settings) const
     return operation;
 }
 
+OperationSuite::Settings OperationSuite::workable(const QString &resultVar) const
+{
+    Settings settings{{"resultVar", resultVar}};
+    for (const char *input : {"sourceText", "value"}) {
+        if (propertyNames().contains(input))
+            settings.insert(input, "1");
+    }
+    return settings;
+}
+
 QList<QByteArray> OperationSuite::propertyNames() const
 {
     const std::unique_ptr<Operation> operation(create(nullptr));
@@ -194,7 +204,7 @@ void OperationSuite::results()
 void OperationSuite::withoutScope()
 {
     make({})->doOperation();
-    make({{"resultVar", "r"}})->doOperation();
+    make(workable("r"))->doOperation();
     QCOMPARE(takeWarnings(), QStringList());
 }
 
@@ -202,7 +212,7 @@ void OperationSuite::withoutResultVariable()
 {
     VariableScope scope = sampleScope(facts().resultType);
     scope.declare("", facts().resultType);
-    const std::unique_ptr<Operation> operation = make({{"sourceText", "1"}});
+    const std::unique_ptr<Operation> operation = make(workable({}));
     operation->setVariableScope(&scope);
     operation->doOperation();
     const QString tag = QString(facts().className).remove("Operation");
@@ -212,13 +222,7 @@ void OperationSuite::withoutResultVariable()
 
 void OperationSuite::unfitResultVariable()
 {
-    // Settings that every operation has a result for.
-    Settings settings{{"resultVar", "r"}};
-    for (const char *numeric : {"sourceText", "value"}) {
-        if (propertyNames().contains(numeric))
-            settings.insert(numeric, "1");
-    }
-    const std::unique_ptr<Operation> operation = make(settings);
+    const std::unique_ptr<Operation> operation = make(workable("r"));
     const QList<VarType> types = facts().refusedTypes + QList<VarType>{VarType::None};
     for (const VarType type : types) {
         VariableScope scope = sampleScope(type);
@@ -234,11 +238,7 @@ void OperationSuite::dollarBelongsToTheResultName()
 {
     VariableScope scope = sampleScope(facts().resultType);
     scope.declare("$r", facts().resultType);
-    const std::unique_ptr<Operation> operation = make({{"resultVar", "$r"}});
-    if (propertyNames().contains("sourceText"))
-        operation->setProperty("sourceText", "1");
-    if (propertyNames().contains("value"))
-        operation->setProperty("value", "1");
+    const std::unique_ptr<Operation> operation = make(workable("$r"));
     operation->setVariableScope(&scope);
     operation->doOperation();
     QCOMPARE(scope.writtenNames(), QStringList("$r"));

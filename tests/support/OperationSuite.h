@@ -82,6 +82,8 @@ private Q_SLOTS:
     void cloning();
 
 private:
+    /// Settings that every operation has a result for.
+    Settings workable(const QString &resultVar) const;
     void addResultColumns() const;
     void addPresentationColumns() const;
     QList<QByteArray> propertyNames() const;
