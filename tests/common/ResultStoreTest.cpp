@@ -17,6 +17,11 @@ private Q_SLOTS:
     void withoutScopeOrName();
     void quotesTheName_data();
     void quotesTheName();
+    void storesNumbers_data();
+    void storesNumbers();
+    void refusesNumbers_data();
+    void refusesNumbers();
+    void numberWithoutScopeOrName();
 };
 
 void ResultStoreTest::stores()
@@ -88,6 +93,61 @@ void ResultStoreTest::quotesTheName()
     VariableScope scope;
     QVERIFY(!storeStringResult(&scope, name, "x"));
     QCOMPARE(takeWarnings(), QStringList("[TextOp] 变量 " + shown + " 未声明为字符串，已跳过"));
+}
+
+void ResultStoreTest::storesNumbers_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<double>("number");
+    QTest::addColumn<QVariant>("expected");
+    QTest::newRow("int") << 1 << 4.0 << QVariant(4);
+    QTest::newRow("int, rounded") << 1 << 2.5 << QVariant(3);
+    QTest::newRow("double") << 2 << -3.7 << QVariant(-3.7);
+    QTest::newRow("string") << 3 << 0.1 << QVariant("0.1");
+    QTest::newRow("bool") << 4 << 0.0 << QVariant(false);
+    QTest::newRow("bool, nan") << 4 << qQNaN() << QVariant(true);
+    QTest::newRow("table is emptied") << 6 << 5.0 << QVariant(QVariantList());
+    QTest::newRow("unknown type") << 7 << 5.0 << QVariant(5.0);
+}
+
+void ResultStoreTest::storesNumbers()
+{
+    QFETCH(int, type);
+    QFETCH(double, number);
+    QFETCH(QVariant, expected);
+    VariableScope scope;
+    scope.declare("v", static_cast<VarType>(type), QVariantList{QVariantList{"old"}});
+    QVERIFY(storeNumberResult(&scope, "v", number));
+    QCOMPARE(scope.get("v"), expected);
+    QCOMPARE(scope.get("v").userType(), expected.userType());
+}
+
+void ResultStoreTest::refusesNumbers_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QString>("end");
+    QTest::newRow("undeclared") << 0 << "未声明，已跳过写入";
+    QTest::newRow("list") << 5 << "数值类型不匹配，已跳过写入";
+}
+
+void ResultStoreTest::refusesNumbers()
+{
+    QFETCH(int, type);
+    QFETCH(QString, end);
+    VariableScope scope;
+    scope.declare("变量", static_cast<VarType>(type));
+    QVERIFY(!storeNumberResult(&scope, "变量", 5.0));
+    QCOMPARE(takeWarnings(), QStringList("[TextOp] 变量 \"变量\" " + end));
+    QCOMPARE(scope.writtenNames(), QStringList());
+}
+
+void ResultStoreTest::numberWithoutScopeOrName()
+{
+    VariableScope scope;
+    scope.declare("", VarType::Int);
+    QVERIFY(!storeNumberResult(nullptr, "v", 5.0));
+    QVERIFY(!storeNumberResult(&scope, "", 5.0));
+    QCOMPARE(scope.writtenNames(), QStringList());
 }
 
 QTEST_GUILESS_MAIN(ResultStoreTest)

@@ -8,6 +8,8 @@
 #include "VariableScope.h"
 
 #include <QMetaProperty>
+#include <QRegularExpression>
+#include <QSet>
 #include <QtTest>
 
 #include <memory>
@@ -22,8 +24,11 @@ private Q_SLOTS:
     void metaObject();
     void propertyFlags_data() { eachPrototype(); }
     void propertyFlags();
-    void annotationKeys_data() { eachPrototype(); }
-    void annotationKeys();
+    void identifiersAreUnique();
+    void annotationGrammar_data() { eachPrototype(); }
+    void annotationGrammar();
+    void conditions_data() { eachPrototype(); }
+    void conditions();
     void propertiesRoundTrip_data() { eachPrototype(); }
     void propertiesRoundTrip();
     void silentWithoutScope_data() { eachPrototype(); }
@@ -119,22 +124,106 @@ void PrototypesTest::propertyFlags()
     }
 }
 
-void PrototypesTest::annotationKeys()
+void PrototypesTest::identifiersAreUnique()
+{
+    TextOperPlugin plugin;
+    const QString prefix = plugin.manifest().typeIdPrefix;
+    const QList<Operation *> prototypes = plugin.createPrototypes();
+    QSet<QString> identifiers;
+    QSet<QString> classes;
+    for (const Operation *prototype : prototypes) {
+        QVERIFY(prototype->typeId().startsWith(prefix));
+        QVERIFY(prototype->typeId().size() > prefix.size());
+        QVERIFY(plugin.manifest().typeOrder.contains(prototype->typeId()));
+        identifiers.insert(prototype->typeId());
+        classes.insert(prototype->metaObject()->className());
+    }
+    QCOMPARE(identifiers.size(), prototypes.size());
+    QCOMPARE(classes.size(), prototypes.size());
+    QCOMPARE(plugin.manifest().typeOrder.size(), prototypes.size());
+    qDeleteAll(prototypes);
+}
+
+void PrototypesTest::annotationGrammar()
 {
     QFETCH(int, index);
     const OperationPtr operation = makeOperation(index);
-    // The labels come in the order of the properties, one for each.
-    QStringList labelled;
+    // Built up from the properties, the annotations have to come out in exactly this order; so no
+    // key is unknown, doubled, missing or of another property.
     const QStringList annotations = annotationsOf(*operation->metaObject());
+    QMap<QString, QString> values;
+    QStringList keys;
     for (const QString &annotation : annotations) {
-        if (annotation.startsWith("prop_"))
-            labelled.append(annotation.section(" = ", 0, 0).mid(5));
+        keys.append(annotation.section(" = ", 0, 0));
+        values.insert(keys.last(), annotation.section(" = ", 1));
     }
-    QStringList names;
+    QStringList expected;
     const auto properties = ownProperties(*operation);
-    for (const QMetaProperty &property : properties)
-        names.append(property.name());
-    QCOMPARE(labelled, names);
+    for (const QMetaProperty &property : properties) {
+        const QString name = property.name();
+        expected.append("prop_" + name);
+        QVERIFY(!values.value("prop_" + name).isEmpty());
+        const QString editor = values.value("editor_" + name);
+        QCOMPARE(editor.isEmpty(), property.type() == QVariant::Bool);
+        if (editor.isEmpty())
+            continue;
+        expected.append("editor_" + name);
+        if (editor == "COMBO") {
+            QCOMPARE(property.type(), QVariant::Int);
+            expected.append("choices_" + name);
+            const QStringList choices = values.value("choices_" + name).split('|');
+            QVERIFY(choices.size() > 1);
+            for (const QString &choice : choices)
+                QVERIFY(!choice.isEmpty() && choice == choice.trimmed());
+            QCOMPARE(QSet<QString>(choices.begin(), choices.end()).size(), choices.size());
+        } else if (editor == "VARREF") {
+            QCOMPARE(property.type(), QVariant::String);
+            const bool byType = values.contains("varref_type_" + name);
+            expected.append((byType ? "varref_type_" : "varref_kind_") + name);
+            QCOMPARE(values.value(expected.last()),
+                     QString(byType ? "int,double,string" : "string"));
+        } else if (editor.startsWith("VARNAME:")) {
+            QCOMPARE(property.type(), QVariant::String);
+            const QString type = editor.mid(8);
+            QVERIFY(QStringList({"STRING", "INT", "LIST", "SCALAR"}).contains(type));
+            expected.append("varname_type_" + name);
+            QCOMPARE(values.value(expected.last()), type.toLower());
+        } else {
+            QCOMPARE(property.type(), QVariant::String);
+            QVERIFY2(editor == "NUMVAR:INT" || editor == "NUMVAR:SCALAR", qPrintable(editor));
+        }
+        if (values.contains("show_when_" + name))
+            expected.append("show_when_" + name);
+    }
+    QCOMPARE(keys, expected);
+}
+
+void PrototypesTest::conditions()
+{
+    QFETCH(int, index);
+    const OperationPtr operation = makeOperation(index);
+    const QMetaObject &meta = *operation->metaObject();
+    const auto value = [&](const QString &key) {
+        const int place = meta.indexOfClassInfo(key.toLatin1().constData());
+        return place < 0 ? QString() : QString::fromUtf8(meta.classInfo(place).value());
+    };
+    const auto properties = ownProperties(*operation);
+    for (const QMetaProperty &property : properties) {
+        const QString condition = value(QString("show_when_") + property.name());
+        if (condition.isEmpty())
+            continue;
+        const QRegularExpressionMatch match =
+            QRegularExpression(R"(^(\w+)=(\d+(?:\|\d+)*)$)").match(condition);
+        QVERIFY2(match.hasMatch(), qPrintable(condition));
+        const QString decider = match.captured(1);
+        QCOMPARE(value("editor_" + decider), QString("COMBO"));
+        const int choices = value("choices_" + decider).split('|').size();
+        const QStringList shown = match.captured(2).split('|');
+        for (const QString &number : shown)
+            QVERIFY(number.toInt() < choices);
+        // Shown always would be no condition.
+        QVERIFY(shown.size() < choices);
+    }
 }
 
 void PrototypesTest::propertiesRoundTrip()
