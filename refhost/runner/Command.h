@@ -5,6 +5,7 @@
 
 class Console;
 class OperationCatalog;
+struct CatalogEntry;
 class QCommandLineParser;
 
 /// One command of oprun, such as "run".
@@ -18,14 +19,20 @@ public:
     virtual QString name() const = 0;
     /// What it does, in one sentence.
     virtual QString summary() const = 0;
-    /// The arguments it expects after its name, as the help shows them.
+    /// The arguments it expects after its name, as the help shows them; those in square brackets
+    /// may be left out.
     virtual QStringList arguments() const { return {}; }
     /// Adds the options that only this command has.
     virtual void addOptions(QCommandLineParser &parser) const;
 
-    /// Does the work. `arguments` are as many as asked for. Returns the exit status.
+    /// Does the work. `arguments` are as many as `arguments()` allows. Returns the exit status.
     virtual int run(const QCommandLineParser &options, const QStringList &arguments,
                     const OperationCatalog &catalog, Console &console) const = 0;
+
+protected:
+    /// The entry of an operation the user named; null, with a message, when there is none.
+    static const CatalogEntry *findOrComplain(const OperationCatalog &catalog,
+                                              const QString &typeId, const Console &console);
 
 private:
     Q_DISABLE_COPY_MOVE(Command)

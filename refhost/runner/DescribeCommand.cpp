@@ -6,6 +6,7 @@
 #include "refhost/runner/Console.h"
 #include "refhost/runner/ExitStatus.h"
 #include "refhost/runner/Options.h"
+#include "refhost/runner/PropertyRemarks.h"
 #include "refhost/runner/TextColumns.h"
 
 #include "Operation.h"
@@ -51,28 +52,6 @@ QJsonObject operationToJson(const CatalogEntry &entry, const OperationSchema &sc
             {QStringLiteral("properties"), properties}};
 }
 
-/// What may be chosen or referred to, and when the property is shown, in words.
-QString remarks(const PropertySchema &property)
-{
-    QStringList remarks;
-    if (!property.restrictionKey.isEmpty())
-        remarks.append(property.restrictionKey + QLatin1Char(' ') + property.restriction);
-    if (!property.choices.isEmpty()) {
-        QStringList choices;
-        for (int i = 0; i < property.choices.size(); ++i)
-            choices.append(QStringLiteral("%1 %2").arg(i).arg(property.choices.at(i)));
-        remarks.append(choices.join(QLatin1String(" | ")));
-    }
-    if (!property.conditionName.isEmpty()) {
-        QStringList values;
-        for (const int value : property.conditionValues)
-            values.append(QString::number(value));
-        remarks.append(QStringLiteral("shown when %1 is %2")
-                           .arg(property.conditionName, values.join(QLatin1String(" or "))));
-    }
-    return remarks.join(QLatin1String("; "));
-}
-
 void printOperation(const CatalogEntry &entry, const OperationSchema &schema, Console &console)
 {
     console.print(QStringLiteral("%1  %2  %3")
@@ -81,9 +60,8 @@ void printOperation(const CatalogEntry &entry, const OperationSchema &schema, Co
                              QStringLiteral("EDITOR"), QStringLiteral("DEFAULT"),
                              QStringLiteral("REMARKS")}};
     for (const PropertySchema &property : schema.properties()) {
-        rows.append({property.name, property.label,
-                     property.editor.isEmpty() ? property.typeName : property.editor,
-                     jsonText(variantToJson(property.defaultValue)), remarks(property)});
+        rows.append({property.name, property.label, editorOf(property),
+                     jsonText(variantToJson(property.defaultValue)), remarksOn(property)});
     }
     const QStringList lines = alignColumns(rows);
     for (const QString &line : lines)
@@ -115,13 +93,9 @@ void DescribeCommand::addOptions(QCommandLineParser &parser) const
 int DescribeCommand::run(const QCommandLineParser &options, const QStringList &arguments,
                          const OperationCatalog &catalog, Console &console) const
 {
-    const CatalogEntry *const entry = catalog.find(arguments.first());
-    if (!entry) {
-        console.complain(
-            QStringLiteral("no operation %1; expected %2")
-                .arg(jsonText(arguments.first()), catalog.typeIds().join(QLatin1String(", "))));
+    const CatalogEntry *const entry = findOrComplain(catalog, arguments.first(), console);
+    if (!entry)
         return BadInput;
-    }
     const OperationSchema schema(*entry->prototype);
     if (options.isSet(Options::json()))
         console.printJson(operationToJson(*entry, schema));

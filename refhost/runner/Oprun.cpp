@@ -5,6 +5,8 @@
 #include "refhost/runner/CatalogCommand.h"
 #include "refhost/runner/Console.h"
 #include "refhost/runner/DescribeCommand.h"
+#include "refhost/runner/DocsCommand.h"
+#include "refhost/runner/ExamplesCommand.h"
 #include "refhost/runner/ExitStatus.h"
 #include "refhost/runner/ExplainCommand.h"
 #include "refhost/runner/Options.h"
@@ -13,6 +15,7 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -28,6 +31,8 @@ Commands allCommands()
     commands.push_back(std::make_unique<DescribeCommand>());
     commands.push_back(std::make_unique<RunCommand>());
     commands.push_back(std::make_unique<ExplainCommand>());
+    commands.push_back(std::make_unique<ExamplesCommand>());
+    commands.push_back(std::make_unique<DocsCommand>());
     return commands;
 }
 
@@ -46,6 +51,15 @@ QString overview(const Commands &commands)
     for (const auto &command : commands)
         text += QStringLiteral("  %1 %2\n").arg(command->name(), -9).arg(command->summary());
     return text + QStringLiteral("\n\"oprun COMMAND --help\" tells about one of them.");
+}
+
+/// Whether the command takes that many arguments.
+bool takes(const Command &command, int count)
+{
+    const QStringList all = command.arguments();
+    const auto isOptional = [](const QString &name) { return name.startsWith(QLatin1Char('[')); };
+    const auto optional = std::count_if(all.begin(), all.end(), isOptional);
+    return count <= all.size() && count >= all.size() - optional;
 }
 
 QString listOr(const QStringList &words, const QString &none)
@@ -118,7 +132,7 @@ int runCommand(const Command &command, QCommandLineParser &parser, const QString
     if (const auto status = answerQuestion(parser))
         return *status;
     const QStringList given = parser.positionalArguments().mid(1);
-    if (given.size() != command.arguments().size()) {
+    if (!takes(command, given.size())) {
         return usageError(console,
                           QStringLiteral("%1: %2; expected %3.")
                               .arg(command.name(), listOr(given, QStringLiteral("no argument")),

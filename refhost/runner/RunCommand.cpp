@@ -104,6 +104,7 @@ void traceStep(const StepReport &report, const VariableScope &scope, const Conso
     const QString number = stepNumber(report.index);
     const QString indent(number.size(), QLatin1Char(' '));
     console.note(number + oneLine(report.step->toString()));
+    console.note(indent + oneLine(report.step->description()));
     for (const QString &name : report.written)
         console.note(indent + name + QStringLiteral(" = ") + valueText(scope, name));
     for (const QString &line : report.warnings)

@@ -26,6 +26,10 @@ private Q_SLOTS:
     void explains();
     void listsTheCatalogue();
     void describesAnOperation();
+    void modesByLabelOrNumber();
+    void printsExamples();
+    void checksExamples();
+    void writesTheReferencePage();
     void helps_data();
     void helps();
     void pluginThatDoesNotLoad();
@@ -171,9 +175,9 @@ void OprunTest::refuses_data()
 
     // Of the command line.
     row("no command", valid, {},
-        "no command; expected catalog, describe, run, explain. Try \"oprun --help\".");
+        "no command; expected catalog, describe, run, explain, examples, docs. Try \"oprun --help\".");
     row("unknown command", valid, {"walk"},
-        "no command \"walk\"; expected catalog, describe, run, explain. Try \"oprun --help\".");
+        "no command \"walk\"; expected catalog, describe, run, explain, examples, docs. Try \"oprun --help\".");
     row("unknown option", valid, {"run", "bad.json", "--fast"},
         "Unknown option 'fast'. Try \"oprun --help\".");
     row("unknown option alone", valid, {"--fast"}, "Unknown option 'fast'. Try \"oprun --help\".");
@@ -188,6 +192,14 @@ void OprunTest::refuses_data()
         "catalog: x; expected none. Try \"oprun --help\".");
     row("unknown type to describe", valid, {"describe", "text.glue"},
         "no operation \"text.glue\"; expected " + allTypes);
+    row("unknown type of examples", valid, {"examples", "text.glue"},
+        "no operation \"text.glue\"; expected " + allTypes);
+    row("two types of examples", valid, {"examples", "text.pad", "text.trim"},
+        "examples: text.pad text.trim; expected [TYPE]. Try \"oprun --help\".");
+    row("unknown mode label",
+        R"({"steps": [{"type": "text.trim"}, {"type": "text.pad", "position": "上边"}]})", plain,
+        "bad.json: steps[1].position: \"上边\"; "
+        "expected one of \"左边\", \"中间\", \"右边\", or the number of a choice");
     row("set without a value", valid, {"run", "bad.json", "--set", "line"},
         "--set: \"line\"; expected NAME=TEXT");
     row("set of an unknown variable", valid, {"run", "bad.json", "--set", "Line=x"},
@@ -254,11 +266,14 @@ void OprunTest::tracesSteps()
     const Outcome outcome = run({"run", "task.json", "--trace", "--print", "part"});
     QCOMPARE(outcome.out, QString("key=value;!\n"));
     QCOMPARE(outcome.err, QString("steps[0]  添加文本: $line + ! -> $part\n"
+                                  "          将 ! 添加到 $line 之后，存入 $part\n"
                                   "          part = \"key=value;!\"\n"));
     const Outcome warned = run({"run", "warn.json", "--trace", "--strict"});
     QCOMPARE(warned.err, QString("steps[0]  添加文本:  +  -> $n\n"
+                                 "          将  添加到  之后，存入 $n\n"
                                  "          warning: [TextOp] 变量 \"n\" 未声明为字符串，已跳过\n"
                                  "steps[1]  添加文本:  +  -> \n"
+                                 "          将  添加到  之后，存入 \n"
                                  "          warning: [TextAppend] 未指定结果变量，已跳过\n"));
     QCOMPARE(warned.status, 1);
 }
@@ -317,6 +332,94 @@ void OprunTest::describesAnOperation()
                                {"label", "原文本"},    {"default", ""},
                                {"editor", "VARREF"},   {"varref_kind", "string"}};
     QCOMPARE(operation.value("properties").toArray().first().toObject(), expected);
+}
+
+void OprunTest::modesByLabelOrNumber()
+{
+    for (const char *mode : {"\"右边\"", "2"}) {
+        write("mode.json", QByteArray(R"({"variables": {"r": {"type": "string"}}, "steps": [
+              {"type": "text.pad", "sourceText": "a", "padText": "-", "totalLength": 2,
+               "resultVar": "r", "position": )") +
+                               mode + "}]}");
+        QCOMPARE(run({"run", "mode.json", "--print", "r"}).out, QString("a-\n"));
+    }
+}
+
+void OprunTest::printsExamples()
+{
+    const Outcome one = run({"examples", "text.find"});
+    QCOMPARE(one.out.section('\n', 0, 4), QString("text.find  查询子文本\n"
+                                                  "  found\n"
+                                                  "      sourceText: \"hello world\"\n"
+                                                  "      searchText: \"o\"\n"
+                                                  "      -> 4 (int)"));
+    const Outcome all = run({"examples"});
+    const QStringList types = allTypes.split(", ");
+    for (const QString &type : types)
+        QVERIFY2(all.out.contains('\n' + type + "  ") || all.out.startsWith(type),
+                 qPrintable(type));
+}
+
+void OprunTest::checksExamples()
+{
+    const Outcome good = run({"examples", "--check"});
+    QCOMPARE(good.err, QString());
+    QVERIFY2(good.out.endsWith(" examples, 0 differ\n"), qPrintable(good.out));
+    QCOMPARE(good.status, 0);
+
+    // A copy of the plug-in with a book that is wrong in four ways.
+    const QString plugin = m_folder->filePath("libCopy.so");
+    QFile::copy(PLUGIN_FILE, plugin);
+    write("libCopy.examples.json", R"({"text.reverse": {"examples": [
+        {"name": "right", "settings": {"sourceText": "ab"}, "result": "ba"},
+        {"name": "result", "settings": {"sourceText": "ab"}, "result": "ab"},
+        {"name": "silent", "settings": {"sourceText": "ab"}},
+        {"name": "warning", "into": "int", "settings": {}, "warnings": ["x"]},
+        {"name": "setting", "settings": {"mode": 1}, "result": ""}]}})");
+    const Outcome bad = run({"examples", "--check", "--plugin", plugin});
+    QCOMPARE(bad.out, QString("5 examples, 4 differ\n"));
+    QCOMPARE(bad.status, 1);
+    const QStringList lines = bad.err.split('\n');
+    QCOMPARE(lines.size(), 5);
+    QCOMPARE(lines.at(0),
+             QString("oprun: text.reverse, example \"result\": \"ba\"; expected \"ab\""));
+    QCOMPARE(lines.at(1), QString("oprun: text.reverse, example \"silent\": \"ba\"; "
+                                  "expected nothing written"));
+    QCOMPARE(lines.at(2),
+             QString("oprun: text.reverse, example \"warning\": nothing written, warning "
+                     "[TextOp] 变量 \"result\" 未声明为字符串，已跳过; "
+                     "expected nothing written, warning x"));
+    QVERIFY(lines.at(3).contains("steps[0].mode: text.reverse has no such property"));
+
+    write("libCopy.examples.json", R"({"text.glue": {}})");
+    const Outcome unknown = run({"examples", "--plugin", plugin});
+    QCOMPARE(unknown.err, "oprun: " + m_folder->filePath("libCopy.examples.json") +
+                              ": text.glue: no such operation; expected " + allTypes + '\n');
+    QCOMPARE(unknown.status, 2);
+    write("libCopy.examples.json", R"({"text.pad": {"examples": [{"nam": ""}]}})");
+    const Outcome misspelt = run({"docs", "--plugin", plugin});
+    QVERIFY(misspelt.err.contains("text.pad.examples[0]: unknown key \"nam\"; expected name, "));
+    QCOMPARE(misspelt.status, 2);
+    write("libCopy.examples.json", "{");
+    QCOMPARE(run({"examples", "--plugin", plugin}).status, 2);
+    QFile::remove(m_folder->filePath("libCopy.examples.json"));
+    QCOMPARE(run({"examples", "text.pad", "--plugin", plugin}).out,
+             QString("text.pad  填充文本\n"));
+}
+
+void OprunTest::writesTheReferencePage()
+{
+    const Outcome page = run({"docs", "--icons", "pictures/"});
+    QVERIFY(page.out.startsWith("# Operations\n"));
+    QVERIFY(page.out.contains("\n## 填充文本 `text.pad`\n"));
+    QVERIFY(page.out.contains("<img src=\"pictures/images/text_pad.svg\""));
+    QVERIFY(page.out.contains(
+        "| `position` | 填充位置 | `COMBO` | `0` | 0 左边 \\| 1 中间 \\| 2 右边 |"));
+    QVERIFY(page.out.contains("| `index` | 索引值 | `NUMVAR:INT` | `\"\"` | "
+                              "shown when position is 1 |"));
+    QVERIFY(page.out.contains("| found | `sourceText: \"hello world\"`<br>`searchText: \"o\"` | "
+                              "`4` | int |  |"));
+    QVERIFY(run({"docs"}).out.contains("<img src=\":/images/text_pad.svg\""));
 }
 
 void OprunTest::helps_data()
@@ -419,6 +522,7 @@ void OprunTest::utf8WhateverTheLocale()
         {"run", "任务.json", "--set", "line=变量\U0001F600", "--print", "part", "--trace"}, locale);
     QCOMPARE(outcome.out, QString("变量\U0001F600!\n"));
     QCOMPARE(outcome.err, QString("steps[0]  添加文本: $line + ! -> $part\n"
+                                  "          将 ! 添加到 $line 之后，存入 $part\n"
                                   "          part = \"变量\U0001F600!\"\n"));
     QCOMPARE(outcome.status, 0);
 }

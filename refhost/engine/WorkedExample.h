@@ -1,0 +1,40 @@
+#pragma once
+
+#include "refhost/engine/Result.h"
+
+#include "VarType.h"
+
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+class OperationCatalog;
+class OperationSchema;
+
+/// One run of an operation that shows what it does, and what has to come out.
+struct WorkedExample
+{
+    QString name;
+    QJsonObject variables; ///< as in a task
+    QJsonObject settings;  ///< as in a task, less the type; the result goes into "result"
+    QString into;          ///< the type of the variable "result"
+    QJsonValue result;     ///< undefined when nothing is written
+    QStringList warnings;
+};
+
+/// What an example gives: its result, undefined when nothing was written, and its warnings.
+struct ExampleOutcome
+{
+    QJsonValue result;
+    QStringList warnings;
+};
+
+/// Runs an example of the operation `typeId` as a task of one step. A problem says what about its
+/// variables or settings does not fit the operation.
+Result<ExampleOutcome> runExample(const WorkedExample &example, const QString &typeId,
+                                  const OperationCatalog &catalog);
+
+/// The names of the example's settings in the order of the properties.
+QStringList settingNames(const WorkedExample &example, const OperationSchema &schema);

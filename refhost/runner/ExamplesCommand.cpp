@@ -1,0 +1,124 @@
+#include "refhost/runner/ExamplesCommand.h"
+
+#include "refhost/engine/ExampleBook.h"
+#include "refhost/engine/JsonValue.h"
+#include "refhost/engine/OperationCatalog.h"
+#include "refhost/engine/OperationSchema.h"
+#include "refhost/runner/Console.h"
+#include "refhost/runner/ExitStatus.h"
+
+#include "Operation.h"
+
+#include <QCommandLineParser>
+
+namespace {
+
+QCommandLineOption checkOption()
+{
+    return {QStringLiteral("check"),
+            QStringLiteral("Run the examples and report every difference, with status 1.")};
+}
+
+void printExample(const WorkedExample &example, const OperationSchema &schema, Console &console)
+{
+    console.print(QStringLiteral("  ") + example.name);
+    for (auto variable = example.variables.begin(); variable != example.variables.end(); ++variable)
+        console.print(QStringLiteral("      $%1: %2").arg(variable.key(), jsonText(*variable)));
+    const QStringList names = settingNames(example, schema);
+    for (const QString &name : names) {
+        const QString value = jsonText(example.settings.value(name));
+        console.print(QStringLiteral("      %1: %2").arg(name, value));
+    }
+    const QString result = example.result.isUndefined() ? QStringLiteral("nothing is written")
+                                                        : jsonText(example.result);
+    console.print(QStringLiteral("      -> %1 (%2)").arg(result, example.into));
+    for (const QString &line : example.warnings)
+        console.print(QStringLiteral("      warning: ") + line);
+}
+
+void printPage(const CatalogEntry &entry, const OperationPage &page, Console &console)
+{
+    console.print(entry.typeId + QStringLiteral("  ") + entry.prototype->typeName());
+    const OperationSchema schema(*entry.prototype);
+    for (const WorkedExample &example : page.examples)
+        printExample(example, schema, console);
+}
+
+QString shown(const ExampleOutcome &outcome)
+{
+    QStringList parts;
+    parts.append(outcome.result.isUndefined() ? QStringLiteral("nothing written")
+                                              : jsonText(outcome.result));
+    for (const QString &line : outcome.warnings)
+        parts.append(QStringLiteral("warning ") + line);
+    return parts.join(QLatin1String(", "));
+}
+
+/// How many examples of the page differ; each is reported.
+int differences(const CatalogEntry &entry, const OperationPage &page,
+                const OperationCatalog &catalog, const Console &console)
+{
+    int count = 0;
+    for (const WorkedExample &example : page.examples) {
+        const ExampleOutcome expected{example.result, example.warnings};
+        const Result<ExampleOutcome> actual = runExample(example, entry.typeId, catalog);
+        const bool equal = actual && actual.value().result == expected.result &&
+                           actual.value().warnings == expected.warnings;
+        if (equal)
+            continue;
+        ++count;
+        const QString found = actual ? shown(actual.value()) : actual.problem().toString();
+        console.complain(QStringLiteral("%1, example \"%2\": %3; expected %4")
+                             .arg(entry.typeId, example.name, found, shown(expected)));
+    }
+    return count;
+}
+
+} // namespace
+
+QString ExamplesCommand::name() const
+{
+    return QStringLiteral("examples");
+}
+
+QString ExamplesCommand::summary() const
+{
+    return QStringLiteral("Prints the worked examples that come with the plug-ins.");
+}
+
+QStringList ExamplesCommand::arguments() const
+{
+    return {QStringLiteral("[TYPE]")};
+}
+
+void ExamplesCommand::addOptions(QCommandLineParser &parser) const
+{
+    parser.addOption(checkOption());
+}
+
+int ExamplesCommand::run(const QCommandLineParser &options, const QStringList &arguments,
+                         const OperationCatalog &catalog, Console &console) const
+{
+    const Result<ExampleBook> book = ExampleBook::read(catalog);
+    if (!book) {
+        console.complain(book.problem().toString());
+        return BadInput;
+    }
+    if (!arguments.isEmpty() && !findOrComplain(catalog, arguments.first(), console))
+        return BadInput;
+    int run = 0;
+    int differing = 0;
+    for (const CatalogEntry &entry : catalog.entries()) {
+        if (!arguments.isEmpty() && entry.typeId != arguments.first())
+            continue;
+        const OperationPage page = book.value().page(entry.typeId);
+        run += page.examples.size();
+        if (options.isSet(checkOption()))
+            differing += differences(entry, page, catalog, console);
+        else
+            printPage(entry, page, console);
+    }
+    if (options.isSet(checkOption()))
+        console.print(QStringLiteral("%1 examples, %2 differ").arg(run).arg(differing));
+    return differing == 0 ? Success : Differs;
+}

@@ -1,0 +1,29 @@
+#include "refhost/runner/PropertyRemarks.h"
+
+#include <QStringList>
+
+QString editorOf(const PropertySchema &property)
+{
+    return property.editor.isEmpty() ? property.typeName : property.editor;
+}
+
+QString remarksOn(const PropertySchema &property)
+{
+    QStringList remarks;
+    if (!property.restrictionKey.isEmpty())
+        remarks.append(property.restrictionKey + QLatin1Char(' ') + property.restriction);
+    if (!property.choices.isEmpty()) {
+        QStringList choices;
+        for (int i = 0; i < property.choices.size(); ++i)
+            choices.append(QStringLiteral("%1 %2").arg(i).arg(property.choices.at(i)));
+        remarks.append(choices.join(QLatin1String(" | ")));
+    }
+    if (!property.conditionName.isEmpty()) {
+        QStringList values;
+        for (const int value : property.conditionValues)
+            values.append(QString::number(value));
+        remarks.append(QStringLiteral("shown when %1 is %2")
+                           .arg(property.conditionName, values.join(QLatin1String(" or "))));
+    }
+    return remarks.join(QLatin1String("; "));
+}
