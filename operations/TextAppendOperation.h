@@ -61,15 +61,14 @@ public:
 private:
     friend class OperationFrame;
 
-    static constexpr auto fields()
-    {
-        using This = TextAppendOperation;
-        return std::make_tuple(&This::m_sourceText, &This::m_appendText, &This::m_resultVar);
-    }
-
     void run() const;
 
     QString m_sourceText;
     QString m_appendText;
     QString m_resultVar;
+
+    /// What a record holds, in the order of the properties.
+    static constexpr auto fields =
+        std::make_tuple(&TextAppendOperation::m_sourceText, &TextAppendOperation::m_appendText,
+                        &TextAppendOperation::m_resultVar);
 };

@@ -87,13 +87,6 @@ public:
 private:
     friend class OperationFrame;
 
-    static constexpr auto fields()
-    {
-        using This = TextBetweenOperation;
-        return std::make_tuple(&This::m_sourceText, &This::m_cutMode, &This::m_startMarker,
-                               &This::m_endMarker, &This::m_ignoreCase, &This::m_resultVar);
-    }
-
     void run() const;
 
     QString m_sourceText;
@@ -102,4 +95,10 @@ private:
     QString m_endMarker;
     bool m_ignoreCase = false;
     QString m_resultVar;
+
+    /// What a record holds, in the order of the properties.
+    static constexpr auto fields =
+        std::make_tuple(&TextBetweenOperation::m_sourceText, &TextBetweenOperation::m_cutMode,
+                        &TextBetweenOperation::m_startMarker, &TextBetweenOperation::m_endMarker,
+                        &TextBetweenOperation::m_ignoreCase, &TextBetweenOperation::m_resultVar);
 };

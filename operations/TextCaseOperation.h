@@ -63,16 +63,15 @@ public:
 private:
     friend class OperationFrame;
 
-    static constexpr auto fields()
-    {
-        using This = TextCaseOperation;
-        return std::make_tuple(&This::m_sourceText, &This::m_mode, &This::m_resultVar);
-    }
-
     void run() const;
     QString caseModeText() const;
 
     QString m_sourceText;
     int m_mode = 0;
     QString m_resultVar;
+
+    /// What a record holds, in the order of the properties.
+    static constexpr auto fields =
+        std::make_tuple(&TextCaseOperation::m_sourceText, &TextCaseOperation::m_mode,
+                        &TextCaseOperation::m_resultVar);
 };

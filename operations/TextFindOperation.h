@@ -68,17 +68,15 @@ public:
 private:
     friend class OperationFrame;
 
-    static constexpr auto fields()
-    {
-        using This = TextFindOperation;
-        return std::make_tuple(&This::m_sourceText, &This::m_searchText, &This::m_ignoreCase,
-                               &This::m_resultVar);
-    }
-
     void run() const;
 
     QString m_sourceText;
     QString m_searchText;
     bool m_ignoreCase = false;
     QString m_resultVar;
+
+    /// What a record holds, in the order of the properties.
+    static constexpr auto fields =
+        std::make_tuple(&TextFindOperation::m_sourceText, &TextFindOperation::m_searchText,
+                        &TextFindOperation::m_ignoreCase, &TextFindOperation::m_resultVar);
 };

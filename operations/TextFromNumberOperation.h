@@ -66,17 +66,15 @@ public:
 private:
     friend class OperationFrame;
 
-    static constexpr auto fields()
-    {
-        using This = TextFromNumberOperation;
-        return std::make_tuple(&This::m_value, &This::m_decimals, &This::m_useGrouping,
-                               &This::m_resultVar);
-    }
-
     void run() const;
 
     QString m_value;
     QString m_decimals;
     bool m_useGrouping = false;
     QString m_resultVar;
+
+    /// What a record holds, in the order of the properties.
+    static constexpr auto fields = std::make_tuple(
+        &TextFromNumberOperation::m_value, &TextFromNumberOperation::m_decimals,
+        &TextFromNumberOperation::m_useGrouping, &TextFromNumberOperation::m_resultVar);
 };

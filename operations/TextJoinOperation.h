@@ -61,15 +61,14 @@ public:
 private:
     friend class OperationFrame;
 
-    static constexpr auto fields()
-    {
-        using This = TextJoinOperation;
-        return std::make_tuple(&This::m_listVar, &This::m_separator, &This::m_resultVar);
-    }
-
     void run() const;
 
     QString m_listVar;
     QString m_separator;
     QString m_resultVar;
+
+    /// What a record holds, in the order of the properties.
+    static constexpr auto fields =
+        std::make_tuple(&TextJoinOperation::m_listVar, &TextJoinOperation::m_separator,
+                        &TextJoinOperation::m_resultVar);
 };

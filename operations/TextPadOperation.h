@@ -86,13 +86,6 @@ public:
 private:
     friend class OperationFrame;
 
-    static constexpr auto fields()
-    {
-        using This = TextPadOperation;
-        return std::make_tuple(&This::m_sourceText, &This::m_position, &This::m_index,
-                               &This::m_padText, &This::m_totalLength, &This::m_resultVar);
-    }
-
     void run() const;
     QString positionText() const;
 
@@ -102,4 +95,10 @@ private:
     QString m_padText;
     QString m_totalLength;
     QString m_resultVar;
+
+    /// What a record holds, in the order of the properties.
+    static constexpr auto fields =
+        std::make_tuple(&TextPadOperation::m_sourceText, &TextPadOperation::m_position,
+                        &TextPadOperation::m_index, &TextPadOperation::m_padText,
+                        &TextPadOperation::m_totalLength, &TextPadOperation::m_resultVar);
 };

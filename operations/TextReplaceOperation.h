@@ -83,13 +83,6 @@ public:
 private:
     friend class OperationFrame;
 
-    static constexpr auto fields()
-    {
-        using This = TextReplaceOperation;
-        return std::make_tuple(&This::m_sourceText, &This::m_oldText, &This::m_ignoreCase,
-                               &This::m_newText, &This::m_replaceScope, &This::m_resultVar);
-    }
-
     void run() const;
     QString replaceScopeText() const;
 
@@ -99,4 +92,10 @@ private:
     QString m_newText;
     int m_replaceScope = 0;
     QString m_resultVar;
+
+    /// What a record holds, in the order of the properties.
+    static constexpr auto fields =
+        std::make_tuple(&TextReplaceOperation::m_sourceText, &TextReplaceOperation::m_oldText,
+                        &TextReplaceOperation::m_ignoreCase, &TextReplaceOperation::m_newText,
+                        &TextReplaceOperation::m_replaceScope, &TextReplaceOperation::m_resultVar);
 };

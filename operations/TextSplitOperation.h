@@ -79,13 +79,6 @@ public:
 private:
     friend class OperationFrame;
 
-    static constexpr auto fields()
-    {
-        using This = TextSplitOperation;
-        return std::make_tuple(&This::m_sourceText, &This::m_splitMode, &This::m_width,
-                               &This::m_separator, &This::m_resultVar);
-    }
-
     void run() const;
     QString splitModeText() const;
 
@@ -94,4 +87,10 @@ private:
     QString m_width;
     QString m_separator;
     QString m_resultVar;
+
+    /// What a record holds, in the order of the properties.
+    static constexpr auto fields =
+        std::make_tuple(&TextSplitOperation::m_sourceText, &TextSplitOperation::m_splitMode,
+                        &TextSplitOperation::m_width, &TextSplitOperation::m_separator,
+                        &TextSplitOperation::m_resultVar);
 };

@@ -77,13 +77,6 @@ public:
 private:
     friend class OperationFrame;
 
-    static constexpr auto fields()
-    {
-        using This = TextSubstringOperation;
-        return std::make_tuple(&This::m_sourceText, &This::m_startIndex, &This::m_lengthMode,
-                               &This::m_charCount, &This::m_resultVar);
-    }
-
     void run() const;
 
     QString m_sourceText;
@@ -91,4 +84,10 @@ private:
     int m_lengthMode = 0;
     QString m_charCount;
     QString m_resultVar;
+
+    /// What a record holds, in the order of the properties.
+    static constexpr auto fields = std::make_tuple(
+        &TextSubstringOperation::m_sourceText, &TextSubstringOperation::m_startIndex,
+        &TextSubstringOperation::m_lengthMode, &TextSubstringOperation::m_charCount,
+        &TextSubstringOperation::m_resultVar);
 };

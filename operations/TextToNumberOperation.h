@@ -54,14 +54,12 @@ public:
 private:
     friend class OperationFrame;
 
-    static constexpr auto fields()
-    {
-        using This = TextToNumberOperation;
-        return std::make_tuple(&This::m_sourceText, &This::m_resultVar);
-    }
-
     void run() const;
 
     QString m_sourceText;
     QString m_resultVar;
+
+    /// What a record holds, in the order of the properties.
+    static constexpr auto fields =
+        std::make_tuple(&TextToNumberOperation::m_sourceText, &TextToNumberOperation::m_resultVar);
 };

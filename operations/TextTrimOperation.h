@@ -62,16 +62,15 @@ public:
 private:
     friend class OperationFrame;
 
-    static constexpr auto fields()
-    {
-        using This = TextTrimOperation;
-        return std::make_tuple(&This::m_sourceText, &This::m_mode, &This::m_resultVar);
-    }
-
     void run() const;
     QString trimModeText() const;
 
     QString m_sourceText;
     int m_mode = 0;
     QString m_resultVar;
+
+    /// What a record holds, in the order of the properties.
+    static constexpr auto fields =
+        std::make_tuple(&TextTrimOperation::m_sourceText, &TextTrimOperation::m_mode,
+                        &TextTrimOperation::m_resultVar);
 };

@@ -13,7 +13,7 @@ struct Contribution
 };
 
 template <typename T>
-constexpr Contribution contribution(int weight)
+Contribution contribution(int weight)
 {
     return {[]() -> Operation * { return new T(nullptr); }, [] { return T().typeId(); }, weight};
 }

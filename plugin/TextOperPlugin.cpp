@@ -22,7 +22,7 @@ constexpr int interfaceVersion = 2;
 
 /// The operations in the order of the prototypes, each with its weight in the catalogue. The host
 /// sorts the catalogue by weight, so the two orders differ.
-constexpr Contribution contributions[] = {
+const Contribution contributions[] = {
     contribution<TextAppendOperation>(0),       contribution<TextSubstringOperation>(80),
     contribution<TextPadOperation>(40),         contribution<TextBetweenOperation>(10),
     contribution<TextTrimOperation>(90),        contribution<TextReverseOperation>(60),

@@ -13,8 +13,8 @@ class QObject;
 ///
 /// An operation names this class a friend and states two things:
 ///
-/// - `static constexpr auto fields()`, a tuple of pointers to its stored members in the order of
-///   their properties. The record and the copy both come from it.
+/// - `fields`, a constant tuple of pointers to its stored members in the order of their properties.
+///   The record and the copy both come from it.
 /// - `void run() const`, its own work. It is called with a scope and a result variable present.
 class OperationFrame
 {
@@ -37,7 +37,7 @@ public:
     static void save(const T &operation, QDataStream &stream)
     {
         operation.Operation::saveOperation(stream);
-        std::apply([&](auto... field) { ((stream << operation.*field), ...); }, T::fields());
+        std::apply([&](auto... field) { ((stream << operation.*field), ...); }, T::fields);
     }
 
     /// Reads what `save` wrote. The stream's status is left to the caller to look at.
@@ -45,7 +45,7 @@ public:
     static void load(T &operation, QDataStream &stream)
     {
         operation.Operation::loadOperation(stream);
-        std::apply([&](auto... field) { ((stream >> operation.*field), ...); }, T::fields());
+        std::apply([&](auto... field) { ((stream >> operation.*field), ...); }, T::fields);
     }
 
     /// A new operation with the same fields and the same host state, but no scope. It belongs to
@@ -54,7 +54,7 @@ public:
     static T *clone(const T &operation, QObject *parent)
     {
         auto *copy = new T(parent);
-        std::apply([&](auto... field) { ((copy->*field = operation.*field), ...); }, T::fields());
+        std::apply([&](auto... field) { ((copy->*field = operation.*field), ...); }, T::fields);
         copy->baseState = operation.baseState;
         return copy;
     }

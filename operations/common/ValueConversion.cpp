@@ -125,8 +125,11 @@ QVariantList toTable(const QVariant &value)
     if (!isList(value))
         return {};
     const QVariantList list = value.toList();
-    const bool hasRows = !list.isEmpty() && isList(list.first());
-    return hasRows ? list : QVariantList{QVariant(list)};
+    if (!list.isEmpty() && isList(list.first()))
+        return list;
+    QVariantList table;
+    table.append(QVariant(list));
+    return table;
 }
 
 Conversion convert(const QVariant &value, VarType type)

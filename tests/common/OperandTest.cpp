@@ -1,3 +1,4 @@
+#include "tests/support/ListOf.h"
 #include "tests/support/QuietTest.h"
 
 #include "operations/common/Operand.h"
@@ -25,11 +26,6 @@ public:
     QVariant nothing() const { return {}; }
 };
 
-QVariantList row(std::initializer_list<QVariant> cells)
-{
-    return QVariantList(cells);
-}
-
 VariableScope sampleScope()
 {
     VariableScope scope;
@@ -40,11 +36,11 @@ VariableScope sampleScope()
     scope.declare("no", VarType::Bool, false);
     scope.declare("digits", VarType::String, " 12.5 ");
     scope.declare("words", VarType::String, "twelve");
-    scope.declare("list", VarType::List, row({"a", 1, true}));
+    scope.declare("list", VarType::List, listOf({"a", 1, true}));
     scope.declare("strings", VarType::List, QStringList({"x", "y"}));
     scope.declare("empty", VarType::List);
-    scope.declare("table", VarType::Table, row({row({1, 2, 3}), row({4}), "not a row"}));
-    scope.declare("flat", VarType::Table, row({"a", "b"}));
+    scope.declare("table", VarType::Table, listOf({listOf({1, 2, 3}), listOf({4}), "not a row"}));
+    scope.declare("flat", VarType::Table, listOf({"a", "b"}));
     scope.declare(".x", VarType::String, "dotted");
     scope.declare("a b", VarType::String, "spaced");
     scope.set("i", 12);
@@ -199,7 +195,7 @@ void OperandTest::references_data()
     QTest::newRow("dotted name") << "$.x" << QVariant("dotted") << "dotted";
     QTest::newRow("spaced name") << "$a b" << QVariant("spaced") << "spaced";
     QTest::newRow("case of the name") << "$S" << QVariant() << "";
-    QTest::newRow("list") << "$list" << QVariant(row({"a", 1, true})) << "a, 1, true";
+    QTest::newRow("list") << "$list" << QVariant(listOf({"a", 1, true})) << "a, 1, true";
     QTest::newRow("empty path") << "$s." << QVariant("text") << "text";
     QTest::newRow("rows") << "$list.Rows" << QVariant(3) << "3";
     QTest::newRow("rows, lower case") << "$table.rows" << QVariant(3) << "3";
@@ -210,7 +206,7 @@ void OperandTest::references_data()
     QTest::newRow("columns") << "$table.Columns" << QVariant(3) << "3";
     QTest::newRow("columns of nothing") << "$empty.Columns" << QVariant() << "";
     QTest::newRow("columns of no table") << "$flat.columns" << QVariant() << "";
-    QTest::newRow("items") << "$list.Items" << QVariant(row({"a", 1, true})) << "a, 1, true";
+    QTest::newRow("items") << "$list.Items" << QVariant(listOf({"a", 1, true})) << "a, 1, true";
     QTest::newRow("items of strings stay strings")
         << "$strings.items" << QVariant(QStringList({"x", "y"})) << "x, y";
     QTest::newRow("unknown member") << "$list.Length" << QVariant() << "";
@@ -236,9 +232,10 @@ void OperandTest::references()
 void OperandTest::listMembers()
 {
     VariableScope scope;
-    scope.declare("v", VarType::Table, row({row({}), row({1}), 5, QStringList({"a", "b"})}));
+    scope.declare("v", VarType::Table,
+                  listOf({listOf({}), listOf({1}), 5, QStringList({"a", "b"})}));
     QCOMPARE(resolveOperand(parseOperand("$v.Columns"), &scope), QVariant(2));
-    scope.set("v", row({row({})}));
+    scope.set("v", listOf({listOf({})}));
     QCOMPARE(resolveOperand(parseOperand("$v.Columns"), &scope), QVariant(0));
     scope.set("v", QVariant::fromValue(QList<int>({1, 2, 3})));
     QCOMPARE(resolveOperand(parseOperand("$v.Count"), &scope), QVariant(3));

@@ -1,3 +1,4 @@
+#include "tests/support/ListOf.h"
 #include "tests/support/QuietTest.h"
 
 #include "operations/common/ResultStore.h"
@@ -116,7 +117,7 @@ void ResultStoreTest::storesNumbers()
     QFETCH(double, number);
     QFETCH(QVariant, expected);
     VariableScope scope;
-    scope.declare("v", static_cast<VarType>(type), QVariantList{QVariantList{"old"}});
+    scope.declare("v", static_cast<VarType>(type), listOf({listOf({"old"})}));
     QVERIFY(storeNumberResult(&scope, "v", number));
     QCOMPARE(scope.get("v"), expected);
     QCOMPARE(scope.get("v").userType(), expected.userType());

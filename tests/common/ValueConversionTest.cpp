@@ -1,3 +1,4 @@
+#include "tests/support/ListOf.h"
 #include "tests/support/QuietTest.h"
 
 #include "operations/common/ValueConversion.h"
@@ -102,18 +103,20 @@ void ValueConversionTest::converts_data()
     row("chinese word to bool", 4, "否", false);
     row("blank to bool", 4, " ", false);
 
-    row("list to list", 5, List{1, "a"}, List{1, "a"});
+    row("list to list", 5, listOf({1, "a"}), listOf({1, "a"}));
     row("empty list to list", 5, List(), List());
     row("strings to list stay strings", 5, QStringList({"a"}), QStringList({"a"}));
-    row("text to list", 5, "[1, x, , 2.5]", List{1.0, "x", 2.5});
+    row("text to list", 5, "[1, x, , 2.5]", listOf({1.0, "x", 2.5}));
     row("empty brackets to list", 5, "[]", List());
 
-    row("table to table", 6, List{List{1}, List{2}}, List{List{1}, List{2}});
-    row("only the first row counts", 6, List{List{1}, 2}, List{List{1}, 2});
-    row("list to a table of one row", 6, List{1, 2}, List{List{1, 2}});
-    row("a row further down is no table", 6, List{1, List{2}}, List{List{1, List{2}}});
-    row("empty list to a table of one empty row", 6, List(), List{List()});
-    row("text to table", 6, R"([["a","b"],[1]])", List{List{"a", "b"}, List{""}});
+    row("table to table", 6, listOf({listOf({1}), listOf({2})}),
+        listOf({listOf({1}), listOf({2})}));
+    row("only the first row counts", 6, listOf({listOf({1}), 2}), listOf({listOf({1}), 2}));
+    row("list to a table of one row", 6, listOf({1, 2}), listOf({listOf({1, 2})}));
+    row("a row further down is no table", 6, listOf({1, listOf({2})}),
+        listOf({listOf({1, listOf({2})})}));
+    row("empty list to a table of one empty row", 6, List(), listOf({List()}));
+    row("text to table", 6, R"([["a","b"],[1]])", listOf({listOf({"a", "b"}), listOf({""})}));
     row("words to table", 6, "a,b", List());
     row("number to table", 6, 5.0, List());
     row("bool to table", 6, true, List());
@@ -121,7 +124,7 @@ void ValueConversionTest::converts_data()
 
     row("number to no type", 0, 5.0, 5.0);
     row("number to an unknown type", 7, 5.0, 5.0);
-    row("list to an unknown type", 99, List{1}, List{1});
+    row("list to an unknown type", 99, listOf({1}), listOf({1}));
 }
 
 void ValueConversionTest::converts()
@@ -146,15 +149,15 @@ void ValueConversionTest::fails_data()
     QTest::newRow("hexadecimal to int") << 1 << QVariant("0x10") << QVariant(0);
     QTest::newRow("group separators to int") << 1 << QVariant("1,000") << QVariant(0);
     QTest::newRow("blank to int") << 1 << QVariant(" ") << QVariant(0);
-    QTest::newRow("list to int") << 1 << QVariant(List{1}) << QVariant(0);
+    QTest::newRow("list to int") << 1 << QVariant(listOf({1})) << QVariant(0);
     QTest::newRow("date to int") << 1 << QVariant(QDate(2024, 1, 1)) << QVariant(0);
     QTest::newRow("words to double") << 2 << QVariant("abc") << QVariant(0.0);
-    QTest::newRow("list to double") << 2 << QVariant(List{1}) << QVariant(0.0);
-    QTest::newRow("list to text") << 3 << QVariant(List{"a"}) << QVariant(QString());
+    QTest::newRow("list to double") << 2 << QVariant(listOf({1})) << QVariant(0.0);
+    QTest::newRow("list to text") << 3 << QVariant(listOf({"a"})) << QVariant(QString());
     QTest::newRow("empty list to text") << 3 << QVariant(List()) << QVariant(QString());
     QTest::newRow("words to bool") << 4 << QVariant("perhaps") << QVariant(false);
     QTest::newRow("two to bool") << 4 << QVariant("2") << QVariant(false);
-    QTest::newRow("list to bool") << 4 << QVariant(List{true}) << QVariant(false);
+    QTest::newRow("list to bool") << 4 << QVariant(listOf({true})) << QVariant(false);
     QTest::newRow("number to list") << 5 << QVariant(5.0) << QVariant(List());
     QTest::newRow("words to list") << 5 << QVariant("a,b") << QVariant(List());
     QTest::newRow("open bracket to list") << 5 << QVariant("[1, 2") << QVariant(List());
@@ -211,15 +214,15 @@ void ValueConversionTest::bracketLists_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("ok");
     QTest::addColumn<QVariantList>("expected");
-    QTest::newRow("mixed") << "[1, x, , 2.5]" << true << List{1.0, "x", 2.5};
+    QTest::newRow("mixed") << "[1, x, , 2.5]" << true << listOf({1.0, "x", 2.5});
     QTest::newRow("empty") << "[]" << true << List();
     QTest::newRow("blank") << "[ ]" << true << List();
     QTest::newRow("only commas") << "[ , ]" << true << List();
-    QTest::newRow("blanks around") << "  [a]\n" << true << List{"a"};
-    QTest::newRow("quotes stay") << "[\"a\", 'b']" << true << List{"\"a\"", "'b'"};
-    QTest::newRow("nested brackets are text") << "[[1], 2]" << true << List{"[1]", 2.0};
-    QTest::newRow("inner blanks stay") << "[ a b , c ]" << true << List{"a b", "c"};
-    QTest::newRow("full-width comma") << "[a，b]" << true << List{"a，b"};
+    QTest::newRow("blanks around") << "  [a]\n" << true << listOf({"a"});
+    QTest::newRow("quotes stay") << "[\"a\", 'b']" << true << listOf({"\"a\"", "'b'"});
+    QTest::newRow("nested brackets are text") << "[[1], 2]" << true << listOf({"[1]", 2.0});
+    QTest::newRow("inner blanks stay") << "[ a b , c ]" << true << listOf({"a b", "c"});
+    QTest::newRow("full-width comma") << "[a，b]" << true << listOf({"a，b"});
     QTest::newRow("not closed") << "[1, 2" << false << List();
     QTest::newRow("not opened") << "1, 2]" << false << List();
     QTest::newRow("bracket alone") << "[" << false << List();
@@ -244,13 +247,13 @@ void ValueConversionTest::jsonTables_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QVariantList>("expected");
-    QTest::newRow("two rows") << R"([["a","b"],[1]])" << List{List{"a", "b"}, List{""}};
+    QTest::newRow("two rows") << R"([["a","b"],[1]])" << listOf({listOf({"a", "b"}), listOf({""})});
     QTest::newRow("no cell but strings")
-        << R"([["x", 1, true, null, ["y"], {}]])" << List{List{"x", "", "", "", "", ""}};
-    QTest::newRow("empty rows") << "[[],[]]" << List{List(), List()};
+        << R"([["x", 1, true, null, ["y"], {}]])" << listOf({listOf({"x", "", "", "", "", ""})});
+    QTest::newRow("empty rows") << "[[],[]]" << listOf({List(), List()});
     QTest::newRow("no rows") << "[]" << List();
-    QTest::newRow("blanks around") << " \n[[\"文\"]] " << List{List{"文"}};
-    QTest::newRow("escapes") << R"([["a\nb\u6587"]])" << List{List{"a\nb文"}};
+    QTest::newRow("blanks around") << " \n[[\"文\"]] " << listOf({listOf({"文"})});
+    QTest::newRow("escapes") << R"([["a\nb\u6587"]])" << listOf({listOf({"a\nb文"})});
     QTest::newRow("a row that is none") << R"([["a"], 5])" << List();
     QTest::newRow("flat") << R"(["a"])" << List();
     QTest::newRow("object") << R"({"a": [["b"]]})" << List();

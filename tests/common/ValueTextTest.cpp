@@ -1,3 +1,4 @@
+#include "tests/support/ListOf.h"
 #include "tests/support/QuietTest.h"
 
 #include "operations/common/ValueText.h"
@@ -45,14 +46,15 @@ void ValueTextTest::text_data()
     QTest::newRow("date") << QVariant(QDate(2024, 2, 29)) << "2024-02-29";
     QTest::newRow("bytes") << QVariant(QByteArray("raw")) << "raw";
     QTest::newRow("empty list") << QVariant(List()) << "";
-    QTest::newRow("one element") << QVariant(List{"a"}) << "a";
-    QTest::newRow("mixed list") << QVariant(List{"a", 1, 2.5, true}) << "a, 1, 2.5, true";
-    QTest::newRow("invalid element") << QVariant(List{"a", QVariant(), "b"}) << "a, , b";
+    QTest::newRow("one element") << QVariant(listOf({"a"})) << "a";
+    QTest::newRow("mixed list") << QVariant(listOf({"a", 1, 2.5, true})) << "a, 1, 2.5, true";
+    QTest::newRow("invalid element") << QVariant(listOf({"a", QVariant(), "b"})) << "a, , b";
     QTest::newRow("strings") << QVariant(QStringList({"x", "y"})) << "x, y";
-    QTest::newRow("table") << QVariant(List{List{"x", "y"}, List{"z"}}) << "x, y, z";
-    QTest::newRow("empty row") << QVariant(List{List(), "x"}) << ", x";
-    QTest::newRow("deeper") << QVariant(List{List{List{1}, 2}, QStringList({"c"})}) << "1, 2, c";
-    QTest::newRow("separator inside") << QVariant(List{"a, b", "c"}) << "a, b, c";
+    QTest::newRow("table") << QVariant(listOf({listOf({"x", "y"}), listOf({"z"})})) << "x, y, z";
+    QTest::newRow("empty row") << QVariant(listOf({List(), "x"})) << ", x";
+    QTest::newRow("deeper") << QVariant(listOf({listOf({listOf({1}), 2}), QStringList({"c"})}))
+                            << "1, 2, c";
+    QTest::newRow("separator inside") << QVariant(listOf({"a, b", "c"})) << "a, b, c";
     QTest::newRow("container") << QVariant::fromValue(QVector<int>({1, 2})) << "1, 2";
     QTest::newRow("map") << QVariant(QVariantMap{{"a", 1}}) << "";
 }

@@ -1,3 +1,4 @@
+#include "tests/support/ListOf.h"
 #include "tests/support/QuietTest.h"
 
 #include "refhost/engine/JsonValue.h"
@@ -53,13 +54,12 @@ void JsonValueTest::fits_data()
     QTest::newRow("bool") << "true" << 4 << QVariant(true);
     QTest::newRow("empty list") << "[]" << 5 << QVariant(QVariantList());
     QTest::newRow("mixed list") << "[1, 2.5, \"a\", false, [3]]" << 5
-                                << QVariant(QVariantList{1, 2.5, "a", false, QVariantList{3}});
+                                << QVariant(listOf({1, 2.5, "a", false, listOf({3})}));
     QTest::newRow("large whole number in a list")
-        << "[9007199254740992]" << 5 << QVariant(QVariantList{9007199254740992LL});
-    QTest::newRow("too large for a whole number")
-        << "[1e300]" << 5 << QVariant(QVariantList{1e300});
+        << "[9007199254740992]" << 5 << QVariant(listOf({9007199254740992LL}));
+    QTest::newRow("too large for a whole number") << "[1e300]" << 5 << QVariant(listOf({1e300}));
     QTest::newRow("table") << "[[1, 2], []]" << 6
-                           << QVariant(QVariantList{QVariantList{1, 2}, QVariantList()});
+                           << QVariant(listOf({listOf({1, 2}), QVariantList()}));
 }
 
 void JsonValueTest::fits()
@@ -130,9 +130,9 @@ void JsonValueTest::text_data()
     QTest::newRow("infinite") << "inf" << 2 << QVariant(std::numeric_limits<double>::infinity());
     QTest::newRow("bool") << "false" << 4 << QVariant(false);
     QTest::newRow("number for a bool") << "1" << 4 << QVariant();
-    QTest::newRow("list") << R"(["a", 1])" << 5 << QVariant(QVariantList{"a", 1});
+    QTest::newRow("list") << R"(["a", 1])" << 5 << QVariant(listOf({"a", 1}));
     QTest::newRow("open list") << R"(["a")" << 5 << QVariant();
-    QTest::newRow("table") << "[[1]]" << 6 << QVariant(QVariantList{QVariantList{1}});
+    QTest::newRow("table") << "[[1]]" << 6 << QVariant(listOf({listOf({1})}));
 }
 
 void JsonValueTest::text()
@@ -160,8 +160,7 @@ void JsonValueTest::toJson_data()
     QTest::newRow("whole double") << QVariant(4.0) << "4";
     QTest::newRow("not a number") << QVariant(std::nan("")) << "\"nan\"";
     QTest::newRow("bool") << QVariant(true) << "true";
-    QTest::newRow("list") << QVariant(QVariantList{"a", 1, QVariantList{true}})
-                          << "[\"a\",1,[true]]";
+    QTest::newRow("list") << QVariant(listOf({"a", 1, listOf({true})})) << "[\"a\",1,[true]]";
     QTest::newRow("strings") << QVariant(QStringList({"a", "b"})) << "[\"a\",\"b\"]";
 }
 

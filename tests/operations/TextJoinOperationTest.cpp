@@ -1,3 +1,4 @@
+#include "tests/support/ListOf.h"
 #include "tests/support/OperationSuite.h"
 
 #include "operations/TextJoinOperation.h"
@@ -79,33 +80,33 @@ void TextJoinOperationTest::elements_data()
     QTest::addColumn<QString>("separator");
     QTest::addColumn<QString>("expected");
     using List = QVariantList;
-    QTest::newRow("three") << QVariant(List{"a", "b", "c"}) << "-"
+    QTest::newRow("three") << QVariant(listOf({"a", "b", "c"})) << "-"
                            << "a-b-c";
-    QTest::newRow("no separator") << QVariant(List{"a", "b", "c"}) << ""
+    QTest::newRow("no separator") << QVariant(listOf({"a", "b", "c"})) << ""
                                   << "abc";
-    QTest::newRow("one") << QVariant(List{"a"}) << "-"
+    QTest::newRow("one") << QVariant(listOf({"a"})) << "-"
                          << "a";
     QTest::newRow("none") << QVariant(List()) << "-"
                           << "";
-    QTest::newRow("nested") << QVariant(List{1, List{2, 3}, "x"}) << "|"
+    QTest::newRow("nested") << QVariant(listOf({1, listOf({2, 3}), "x"})) << "|"
                             << "1|2, 3|x";
-    QTest::newRow("empty elements") << QVariant(List{"", QVariant(), ""}) << ","
+    QTest::newRow("empty elements") << QVariant(listOf({"", QVariant(), ""})) << ","
                                     << ",,";
-    QTest::newRow("numbers") << QVariant(List{1.5, 2.0, true}) << " "
+    QTest::newRow("numbers") << QVariant(listOf({1.5, 2.0, true})) << " "
                              << "1.5 2 true";
     QTest::newRow("strings") << QVariant(QStringList({"x", "y"})) << "+"
                              << "x+y";
     QTest::newRow("container") << QVariant::fromValue(QVector<int>({1, 2})) << "+"
                                << "1+2";
-    QTest::newRow("number-like separator") << QVariant(List{"a", "b"}) << "1.0"
+    QTest::newRow("number-like separator") << QVariant(listOf({"a", "b"})) << "1.0"
                                            << "a1b";
-    QTest::newRow("no escapes") << QVariant(List{"a", "b"}) << "\\n"
+    QTest::newRow("no escapes") << QVariant(listOf({"a", "b"})) << "\\n"
                                 << "a\\nb";
-    QTest::newRow("separator from a variable") << QVariant(List{"a", "b"}) << "$sep"
+    QTest::newRow("separator from a variable") << QVariant(listOf({"a", "b"})) << "$sep"
                                                << "a；b";
-    QTest::newRow("missing separator") << QVariant(List{"a", "b"}) << "$none"
+    QTest::newRow("missing separator") << QVariant(listOf({"a", "b"})) << "$none"
                                        << "ab";
-    QTest::newRow("the list as separator") << QVariant(List{"a", "b"}) << "$items"
+    QTest::newRow("the list as separator") << QVariant(listOf({"a", "b"})) << "$items"
                                            << "aa, bb";
     QTest::newRow("no list value") << QVariant("text") << ","
                                    << "";

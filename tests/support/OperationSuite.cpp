@@ -1,6 +1,7 @@
 #include "tests/support/OperationSuite.h"
 
 #include "tests/support/Annotations.h"
+#include "tests/support/ListOf.h"
 #include "tests/support/RecordingTranslator.h"
 #include "tests/support/Records.h"
 
@@ -133,8 +134,8 @@ VariableScope OperationSuite::sampleScope(VarType resultType) const
     scope.declare("n", VarType::Int, 3);
     scope.declare("d", VarType::Double, 2.5);
     scope.declare("yes", VarType::Bool, true);
-    scope.declare("list", VarType::List, QVariantList{"x", 1, QVariantList{"y", "z"}});
-    scope.declare("table", VarType::Table, QVariantList{QVariantList{1, 2}, QVariantList{3}});
+    scope.declare("list", VarType::List, listOf({"x", 1, listOf({"y", "z"})}));
+    scope.declare("table", VarType::Table, listOf({listOf({1, 2}), listOf({3})}));
     scope.declare("r", resultType);
     return scope;
 }
