@@ -72,6 +72,7 @@ void TextPadOperation::run() const
     const QString text = resolveTextOperand(m_sourceText, scope);
     const QString fill = resolveTextOperand(m_padText, scope);
     const int total = resolveIntOperand(scope, m_totalLength, 0);
+    // Read in every position, though only the middle uses it.
     const int chosen = std::clamp(resolveIntOperand(scope, m_index, 0), 0, text.size());
     int place = 0;
     if (m_position == middle)

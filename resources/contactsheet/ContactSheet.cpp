@@ -1,6 +1,7 @@
 // Draws SVG icons side by side at the sizes in which a host shows them, each with its file name.
 
 #include <QFileInfo>
+#include <QFont>
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
@@ -59,6 +60,9 @@ bool drawSheet(QImage &sheet, const QStringList &files)
 int main(int argc, char *argv[])
 {
     QGuiApplication application(argc, argv);
+    // The letters in some icons are drawn for Arial; this has its measures where it is not there.
+    QFont::insertSubstitution(QStringLiteral("Arial, Helvetica, sans-serif"),
+                              QStringLiteral("Liberation Sans"));
     QStringList files = QCoreApplication::arguments().mid(1);
     if (files.size() < 2) {
         std::fprintf(stderr, "usage: contactsheet SHEET.png ICON.svg...\n");
