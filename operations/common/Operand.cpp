@@ -89,11 +89,16 @@ QString resolveTextOperand(const QString &operand, VariableScope *scope)
 double resolveNumberOperand(VariableScope *scope, const QString &operand, bool *ok)
 {
     const QVariant value = resolveOperand(parseOperand(operand), scope);
+    bool isNumber = value.canConvert(QMetaType::Double);
+    double number = 0.0;
     if (value.type() == QVariant::String)
-        return value.toString().toDouble(ok);
+        number = value.toString().toDouble(&isNumber);
+    else
+        number = value.toDouble();
     if (ok)
-        *ok = value.canConvert(QMetaType::Double);
-    return value.toDouble();
+        *ok = isNumber;
+    // Qt hands out an infinity for a text beyond the range, though it is no number.
+    return isNumber ? number : 0.0;
 }
 
 int resolveIntOperand(VariableScope *scope, const QString &operand, int fallback)

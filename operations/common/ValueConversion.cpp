@@ -77,7 +77,7 @@ Conversion toDouble(const QVariant &value)
     if (isText(value)) {
         bool ok = false;
         const double number = value.toString().toDouble(&ok);
-        return {number, ok};
+        return {ok ? number : 0.0, ok};
     }
     if (value.canConvert(QVariant::Double))
         return {value.toDouble(), true};

@@ -2,7 +2,10 @@
 
 #include "refhost/engine/WorkedExample.h"
 
+#include <QJsonObject>
 #include <QMap>
+
+#include <optional>
 
 class OperationCatalog;
 
@@ -19,12 +22,15 @@ class ExampleBook
 {
 public:
     /// Reads the files of all plug-ins of the catalogue; a plug-in without one has no pages. A page
-    /// of an operation the catalogue does not have is a problem.
+    /// of an operation the catalogue does not have, an unknown member and a member of the wrong
+    /// kind are problems.
     static Result<ExampleBook> read(const OperationCatalog &catalog);
 
     /// The page of an operation, empty when there is none.
     OperationPage page(const QString &typeId) const { return m_pages.value(typeId); }
 
 private:
+    std::optional<Problem> add(const QJsonObject &json, const OperationCatalog &catalog);
+
     QMap<QString, OperationPage> m_pages;
 };

@@ -37,6 +37,12 @@ Result<QJsonObject> parseJsonObject(const QByteArray &json, const QString &file)
 
 Result<QJsonObject> readJsonObject(const QString &path)
 {
+    if (path.isEmpty()) {
+        return Problem{Problem::Reason::UnreadableFile,
+                       {},
+                       {},
+                       QStringLiteral("an empty file name; expected a file")};
+    }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         return Problem{Problem::Reason::UnreadableFile,

@@ -11,9 +11,6 @@
 
 namespace {
 
-/// Up to here every whole number has a double of its own.
-constexpr double exactIntegers = 9007199254740992.0;
-
 bool isInt(double number)
 {
     using Limits = std::numeric_limits<int>;
@@ -81,12 +78,8 @@ QVariant elementFromJson(const QJsonValue &json)
         return json.toBool();
     if (!json.isDouble())
         return {};
-    const double number = json.toDouble();
-    if (isInt(number))
-        return static_cast<int>(number);
-    if (number == std::trunc(number) && std::abs(number) <= exactIntegers)
-        return static_cast<qlonglong>(number);
-    return number;
+    // Qt keeps whole numbers of up to 64 bits apart from the others here.
+    return isInt(json.toDouble()) ? QVariant(json.toInt()) : json.toVariant();
 }
 
 bool isTable(const QJsonArray &array)

@@ -50,7 +50,8 @@ Result<LoadedPlugin> LoadedPlugin::load(const QString &path)
 {
     if (!QFileInfo(path).isFile())
         return notLoaded(path, QStringLiteral("there is no such file"));
-    QPluginLoader loader(path);
+    // Qt would look for a relative path in its own plug-in folders, not here.
+    QPluginLoader loader(QFileInfo(path).absoluteFilePath());
     QObject *const root = loader.instance();
     if (!root)
         return notLoaded(path, loader.errorString());
@@ -67,7 +68,9 @@ Result<LoadedPlugin> LoadedPlugin::load(const QString &path)
     loaded.m_path = path;
     loaded.m_manifest = plugin->manifest();
     const QList<Operation *> prototypes = plugin->createPrototypes();
-    for (Operation *prototype : prototypes)
-        loaded.m_prototypes.emplace_back(prototype);
+    for (Operation *prototype : prototypes) {
+        if (prototype)
+            loaded.m_prototypes.emplace_back(prototype);
+    }
     return loaded;
 }

@@ -23,6 +23,7 @@ QList<CatalogEntry> entriesOf(const LoadedPlugin &plugin)
     for (const auto &prototype : plugin.prototypes()) {
         CatalogEntry entry;
         entry.root = prototype->root();
+        // The manifest has the untranslated text; the reference host installs no translations.
         entry.rootWeight = manifest.rootOrder.value(entry.root, noWeight);
         entry.typeId = prototype->typeId();
         entry.weight = manifest.typeOrder.value(entry.typeId, noWeight);
@@ -49,16 +50,17 @@ OperationCatalog::OperationCatalog(const QStringList &files)
 void OperationCatalog::add(LoadedPlugin plugin)
 {
     const QList<CatalogEntry> entries = entriesOf(plugin);
+    QStringList taken = typeIds();
     for (const CatalogEntry &entry : entries) {
-        if (find(entry.typeId)) {
+        if (taken.contains(entry.typeId)) {
             m_failures.append(
                 {Problem::Reason::PluginNotLoaded,
                  plugin.path(),
                  {},
-                 QStringLiteral("contributes \"%1\", which another plug-in does already")
-                     .arg(entry.typeId)});
+                 QStringLiteral("contributes \"%1\", which is there already").arg(entry.typeId)});
             return;
         }
+        taken.append(entry.typeId);
     }
     m_entries.append(entries);
     m_plugins.push_back(std::move(plugin));

@@ -27,7 +27,7 @@ class OperationCatalog
 {
 public:
     /// Loads the plug-ins in `files`. One that cannot be loaded, or that brings a type identifier
-    /// that is taken already, is left out and stands in `failures`.
+    /// that is there already, is left out and stands in `failures`.
     explicit OperationCatalog(const QStringList &files);
 
     const QList<CatalogEntry> &entries() const { return m_entries; }

@@ -37,10 +37,11 @@ Result<ExampleOutcome> runExample(const WorkedExample &example, const QString &t
     if (!task)
         return task.problem();
     VariableScope scope = task.value().startScope();
-    ExampleOutcome outcome{QJsonValue::Undefined, {}};
+    ExampleOutcome outcome{QJsonValue::Undefined, {}, {}};
     runTask(task.value(), scope, [&](const StepReport &report) {
         outcome.warnings = report.warnings;
-        if (report.written.contains(resultName()))
+        outcome.others = report.written;
+        if (outcome.others.removeOne(resultName()))
             outcome.result = variantToJson(scope.get(resultName()));
     });
     return outcome;

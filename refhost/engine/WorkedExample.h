@@ -24,11 +24,12 @@ struct WorkedExample
     QStringList warnings;
 };
 
-/// What an example gives: its result, undefined when nothing was written, and its warnings.
+/// What an example gives, or has to give.
 struct ExampleOutcome
 {
-    QJsonValue result;
+    QJsonValue result; ///< what was written to "result", undefined when nothing was
     QStringList warnings;
+    QStringList others; ///< the other variables that were written; an example has none
 };
 
 /// Runs an example of the operation `typeId` as a task of one step. A problem says what about its

@@ -1,5 +1,7 @@
 #include "refhost/runner/Console.h"
 
+#include "refhost/runner/OneLine.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -35,7 +37,7 @@ void Console::note(const QString &line) const
 
 void Console::complain(const QString &message) const
 {
-    note(QStringLiteral("oprun: ") + message);
+    note(oneLine(QStringLiteral("oprun: ") + message));
 }
 
 bool Console::flush()

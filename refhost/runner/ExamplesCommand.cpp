@@ -51,6 +51,8 @@ QString shown(const ExampleOutcome &outcome)
                                               : jsonText(outcome.result));
     for (const QString &line : outcome.warnings)
         parts.append(QStringLiteral("warning ") + line);
+    for (const QString &name : outcome.others)
+        parts.append(QStringLiteral("written to ") + name);
     return parts.join(QLatin1String(", "));
 }
 
@@ -60,11 +62,9 @@ int differences(const CatalogEntry &entry, const OperationPage &page,
 {
     int count = 0;
     for (const WorkedExample &example : page.examples) {
-        const ExampleOutcome expected{example.result, example.warnings};
+        const ExampleOutcome expected{example.result, example.warnings, {}};
         const Result<ExampleOutcome> actual = runExample(example, entry.typeId, catalog);
-        const bool equal = actual && actual.value().result == expected.result &&
-                           actual.value().warnings == expected.warnings;
-        if (equal)
+        if (actual && shown(actual.value()) == shown(expected))
             continue;
         ++count;
         const QString found = actual ? shown(actual.value()) : actual.problem().toString();

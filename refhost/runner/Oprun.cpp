@@ -161,7 +161,8 @@ int runOprun(const QStringList &arguments)
             return runCommand(*command, parser, arguments);
     }
     if (!understood)
-        return usageError(console, parser.errorText());
+        return usageError(console,
+                          parser.errorText() + QStringLiteral(" Options of a command follow it."));
     if (const auto status = answerQuestion(parser))
         return *status;
     return usageError(console,

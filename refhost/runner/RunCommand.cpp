@@ -106,9 +106,9 @@ void traceStep(const StepReport &report, const VariableScope &scope, const Conso
     console.note(number + oneLine(report.step->toString()));
     console.note(indent + oneLine(report.step->description()));
     for (const QString &name : report.written)
-        console.note(indent + name + QStringLiteral(" = ") + valueText(scope, name));
+        console.note(indent + oneLine(name) + QStringLiteral(" = ") + valueText(scope, name));
     for (const QString &line : report.warnings)
-        console.note(indent + QStringLiteral("warning: ") + line);
+        console.note(indent + QStringLiteral("warning: ") + oneLine(line));
 }
 
 void complainOfStep(const StepReport &report, const QString &file, const Console &console)
@@ -130,7 +130,7 @@ void printVariables(const VariableScope &scope, const QStringList &chosen, bool 
         if (asJson)
             json.insert(name, value);
         else if (chosen.isEmpty())
-            console.print(name + QStringLiteral(" = ") + jsonText(value));
+            console.print(oneLine(name) + QStringLiteral(" = ") + jsonText(value));
         else
             console.print(value.isString() ? value.toString() : jsonText(value));
     }

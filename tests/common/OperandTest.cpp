@@ -277,6 +277,7 @@ void OperandTest::numbers_data()
     QTest::newRow("literal with spaces") << " -2.5 " << true << -2.5;
     QTest::newRow("infinite") << "-inf" << true << -std::numeric_limits<double>::infinity();
     QTest::newRow("text") << "abc" << false << 0.0;
+    QTest::newRow("beyond the range") << "1e999" << false << 0.0;
     QTest::newRow("empty") << "" << false << 0.0;
     QTest::newRow("dollar") << "$" << false << 0.0;
     QTest::newRow("group separator") << "1,234" << false << 0.0;

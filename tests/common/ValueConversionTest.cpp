@@ -151,6 +151,7 @@ void ValueConversionTest::fails_data()
     QTest::newRow("blank to int") << 1 << QVariant(" ") << QVariant(0);
     QTest::newRow("list to int") << 1 << QVariant(listOf({1})) << QVariant(0);
     QTest::newRow("date to int") << 1 << QVariant(QDate(2024, 1, 1)) << QVariant(0);
+    QTest::newRow("text beyond the range to double") << 2 << QVariant("1e999") << QVariant(0.0);
     QTest::newRow("words to double") << 2 << QVariant("abc") << QVariant(0.0);
     QTest::newRow("list to double") << 2 << QVariant(listOf({1})) << QVariant(0.0);
     QTest::newRow("list to text") << 3 << QVariant(listOf({"a"})) << QVariant(QString());
@@ -253,6 +254,7 @@ void ValueConversionTest::jsonTables_data()
     QTest::newRow("empty rows") << "[[],[]]" << listOf({List(), List()});
     QTest::newRow("no rows") << "[]" << List();
     QTest::newRow("blanks around") << " \n[[\"文\"]] " << listOf({listOf({"文"})});
+    QTest::newRow("wide blanks around") << "\u3000[[\"a\"]]\u00A0" << listOf({listOf({"a"})});
     QTest::newRow("escapes") << R"([["a\nb\u6587"]])" << listOf({listOf({"a\nb文"})});
     QTest::newRow("a row that is none") << R"([["a"], 5])" << List();
     QTest::newRow("flat") << R"(["a"])" << List();

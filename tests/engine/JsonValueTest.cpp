@@ -56,7 +56,7 @@ void JsonValueTest::fits_data()
     QTest::newRow("mixed list") << "[1, 2.5, \"a\", false, [3]]" << 5
                                 << QVariant(listOf({1, 2.5, "a", false, listOf({3})}));
     QTest::newRow("large whole number in a list")
-        << "[9007199254740992]" << 5 << QVariant(listOf({9007199254740992LL}));
+        << "[9007199254740993]" << 5 << QVariant(listOf({9007199254740993LL}));
     QTest::newRow("too large for a whole number") << "[1e300]" << 5 << QVariant(listOf({1e300}));
     QTest::newRow("table") << "[[1, 2], []]" << 6
                            << QVariant(listOf({listOf({1, 2}), QVariantList()}));

@@ -33,7 +33,6 @@ void OperationCatalogTest::severalPlugins()
     // By the weights of the roots, 100 before 500, not by name or by the order of loading.
     QCOMPARE(catalog.typeIds().mid(0, 3),
              QStringList({"greet.hello", "text.append", "text.between"}));
-    QCOMPARE(catalog.typeIds().last(), QString("text.case"));
     const CatalogEntry *const entry = catalog.find("greet.hello");
     QVERIFY(entry);
     QCOMPARE(entry->root, QString("问候"));
@@ -101,7 +100,7 @@ void OperationCatalogTest::takenTypeIdentifier()
     const OperationCatalog catalog({GREET_PLUGIN, copy});
     QCOMPARE(catalog.failures().size(), 1);
     QCOMPARE(catalog.failures().first().toString(),
-             copy + ": contributes \"greet.hello\", which another plug-in does already");
+             copy + ": contributes \"greet.hello\", which is there already");
     QCOMPARE(catalog.typeIds(), QStringList("greet.hello"));
 }
 

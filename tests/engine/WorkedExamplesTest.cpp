@@ -66,6 +66,7 @@ void WorkedExamplesTest::examples()
     QCOMPARE(jsonText(outcome.value().result), jsonText(example.result));
     QCOMPARE(outcome.value().result.isUndefined(), example.result.isUndefined());
     QCOMPARE(outcome.value().warnings, example.warnings);
+    QCOMPARE(outcome.value().others, QStringList());
 }
 
 QTEST_GUILESS_MAIN(WorkedExamplesTest)

@@ -57,8 +57,8 @@ void TextCaseOperationTest::resultRows() const
     row("sharp s grows", 0, "straße", "STRASSE");
     row("sharp s first stays", 2, "ßa", "ßa");
     row("ligature grows", 0, "\uFB01x", "FIX");
-    row("final sigma", 1, "ΣΑΣ", QString("ΣΑΣ").toLower());
-    row("dotted capital i", 1, "İ", QString("İ").toLower());
+    row("final sigma", 1, "ΣΑΣ", "σασ");
+    row("dotted capital i", 1, "İ", "i\u0307");
     row("title case letter", 2, "ǆ", "Ǆ");
     row("chinese, upper", 0, "文本 123", "文本 123");
     row("chinese, lower", 1, "文本 123", "文本 123");

@@ -65,8 +65,8 @@ void TextFromNumberOperationTest::resultRows() const
     row("places from a list", "3.7", "$list", "4");
     row("zeros behind", "1.5", "3", "1.500");
     row("negative number", "-0.126", "2", "-0.13");
-    row("rounds the binary value", "2.675", "2", QString::number(2.675, 'f', 2));
-    row("half", "0.5", "0", QString::number(0.5, 'f', 0));
+    row("rounds the binary value", "2.675", "2", "2.67");
+    row("half", "0.5", "0", "1");
     row("large number without exponent", "1e20", "0", "100000000000000000000");
     row("small number", "1e-7", "3", "0.000");
     row("integer variable", "$n", "1", "3.0");
@@ -114,7 +114,8 @@ void TextFromNumberOperationTest::groupsAsTheDefaultLocaleDoes_data()
     QTest::addColumn<QString>("expected");
     QTest::newRow("C") << "C"
                        << "1234567.891"
-                       << "2" << QLocale::c().toString(1234567.891, 'f', 2);
+                       << "2"
+                       << "1234567.89";
     QTest::newRow("English") << "en_US"
                              << "1234567.891"
                              << "2"

@@ -29,6 +29,11 @@ private Q_SLOTS:
     void modesByLabelOrNumber();
     void printsExamples();
     void checksExamples();
+    void refusesExamples_data();
+    void refusesExamples();
+    void oddButLegalTasks_data();
+    void oddButLegalTasks();
+    void pluginByRelativePath();
     void writesTheReferencePage();
     void helps_data();
     void helps();
@@ -180,7 +185,17 @@ void OprunTest::refuses_data()
         "no command \"walk\"; expected catalog, describe, run, explain, examples, docs. Try \"oprun --help\".");
     row("unknown option", valid, {"run", "bad.json", "--fast"},
         "Unknown option 'fast'. Try \"oprun --help\".");
-    row("unknown option alone", valid, {"--fast"}, "Unknown option 'fast'. Try \"oprun --help\".");
+    row("unknown option alone", valid, {"--fast"},
+        "Unknown option 'fast'. Options of a command follow it. Try \"oprun --help\".");
+    row("option before its command", valid, {"--set", "line=x", "run", "bad.json"},
+        "Unknown option 'set'. Options of a command follow it. Try \"oprun --help\".");
+    row("empty file name", valid, {"run", ""}, "an empty file name; expected a file");
+    row("message on one line", R"({"steps": [], "a\nb": 1})", plain,
+        "bad.json: unknown key \"a\\nb\"; expected variables, steps");
+    row("not UTF-8", "{\"steps\": [\"\xff\xfe\"]}", plain,
+        "bad.json: line 1, column 12: malformed JSON (invalid UTF8 string)");
+    row("deeply nested", QByteArray(2000, '['), plain,
+        "bad.json: line 1, column 1025: malformed JSON (too deeply nested document)");
     row("option of another command", valid, {"catalog", "--trace"},
         "Unknown option 'trace'. Try \"oprun --help\".");
     row("option without its value", valid, {"run", "bad.json", "--set"},
@@ -367,7 +382,7 @@ void OprunTest::checksExamples()
     QVERIFY2(good.out.endsWith(" examples, 0 differ\n"), qPrintable(good.out));
     QCOMPARE(good.status, 0);
 
-    // A copy of the plug-in with a book that is wrong in four ways.
+    // A copy of the plug-in with a book that is wrong in five ways.
     const QString plugin = m_folder->filePath("libCopy.so");
     QFile::copy(PLUGIN_FILE, plugin);
     write("libCopy.examples.json", R"({"text.reverse": {"examples": [
@@ -375,12 +390,14 @@ void OprunTest::checksExamples()
         {"name": "result", "settings": {"sourceText": "ab"}, "result": "ab"},
         {"name": "silent", "settings": {"sourceText": "ab"}},
         {"name": "warning", "into": "int", "settings": {}, "warnings": ["x"]},
+        {"name": "other", "variables": {"x": {"type": "string"}},
+         "settings": {"sourceText": "ab", "resultVar": "x"}},
         {"name": "setting", "settings": {"mode": 1}, "result": ""}]}})");
     const Outcome bad = run({"examples", "--check", "--plugin", plugin});
-    QCOMPARE(bad.out, QString("5 examples, 4 differ\n"));
+    QCOMPARE(bad.out, QString("6 examples, 5 differ\n"));
     QCOMPARE(bad.status, 1);
     const QStringList lines = bad.err.split('\n');
-    QCOMPARE(lines.size(), 5);
+    QCOMPARE(lines.size(), 6);
     QCOMPARE(lines.at(0),
              QString("oprun: text.reverse, example \"result\": \"ba\"; expected \"ab\""));
     QCOMPARE(lines.at(1), QString("oprun: text.reverse, example \"silent\": \"ba\"; "
@@ -389,22 +406,102 @@ void OprunTest::checksExamples()
              QString("oprun: text.reverse, example \"warning\": nothing written, warning "
                      "[TextOp] 变量 \"result\" 未声明为字符串，已跳过; "
                      "expected nothing written, warning x"));
-    QVERIFY(lines.at(3).contains("steps[0].mode: text.reverse has no such property"));
+    QCOMPARE(lines.at(3), QString("oprun: text.reverse, example \"other\": nothing written, "
+                                  "written to x; expected nothing written"));
+    QVERIFY(lines.at(4).contains("steps[0].mode: text.reverse has no such property"));
 
     write("libCopy.examples.json", R"({"text.glue": {}})");
     const Outcome unknown = run({"examples", "--plugin", plugin});
     QCOMPARE(unknown.err, "oprun: " + m_folder->filePath("libCopy.examples.json") +
                               ": text.glue: no such operation; expected " + allTypes + '\n');
     QCOMPARE(unknown.status, 2);
-    write("libCopy.examples.json", R"({"text.pad": {"examples": [{"nam": ""}]}})");
-    const Outcome misspelt = run({"docs", "--plugin", plugin});
-    QVERIFY(misspelt.err.contains("text.pad.examples[0]: unknown key \"nam\"; expected name, "));
-    QCOMPARE(misspelt.status, 2);
-    write("libCopy.examples.json", "{");
-    QCOMPARE(run({"examples", "--plugin", plugin}).status, 2);
     QFile::remove(m_folder->filePath("libCopy.examples.json"));
     QCOMPARE(run({"examples", "text.pad", "--plugin", plugin}).out,
              QString("text.pad  填充文本\n"));
+}
+
+void OprunTest::refusesExamples_data()
+{
+    QTest::addColumn<QByteArray>("book");
+    QTest::addColumn<QString>("err");
+    const QString members = "unknown key; expected into, name, settings, variables, warnings";
+    const auto row = [](const char *name, const char *book, const QString &err) {
+        QTest::newRow(name) << QByteArray(book) << err;
+    };
+    row("malformed", "{", "line 1, column 1: malformed JSON (unterminated object)");
+    row("page no object", R"({"text.pad": []})", "text.pad: []; expected an object");
+    row("unknown member of a page", R"({"text.pad": {"exmaples": []}})",
+        "text.pad.exmaples: unknown key; expected about, examples");
+    row("examples no array", R"({"text.pad": {"examples": {}}})",
+        "text.pad.examples: {}; expected an array");
+    row("example no object", R"({"text.pad": {"examples": [5]}})",
+        "text.pad.examples[0]: 5; expected an object");
+    row("unknown member of an example", R"({"text.pad": {"examples": [{}, {"nam": ""}]}})",
+        "text.pad.examples[1].nam: " + members);
+    row("settings no object", R"({"text.pad": {"examples": [{"settings": 5}]}})",
+        "text.pad.examples[0].settings: 5; expected an object");
+    row("type no string", R"({"text.pad": {"examples": [{"into": 5}]}})",
+        "text.pad.examples[0].into: 5; expected a string");
+    row("type among the settings", R"({"text.pad": {"examples": [{"settings": {"type": "x"}}]}})",
+        "text.pad.examples[0].settings.type: the type is that of the page; expected properties");
+    row("result among the variables",
+        R"({"text.pad": {"examples": [{"variables": {"result": {"type": "int"}}}]}})",
+        "text.pad.examples[0].variables.result: the result is declared by \"into\"; "
+        "expected other names");
+}
+
+void OprunTest::refusesExamples()
+{
+    QFETCH(QByteArray, book);
+    QFETCH(QString, err);
+    const QString plugin = m_folder->filePath("libFaulty.so");
+    QFile::copy(PLUGIN_FILE, plugin);
+    write("libFaulty.examples.json", book);
+    for (const char *command : {"examples", "docs"}) {
+        const Outcome outcome = run({command, "--plugin", plugin});
+        QCOMPARE(outcome.err,
+                 "oprun: " + m_folder->filePath("libFaulty.examples.json") + ": " + err + '\n');
+        QCOMPARE(outcome.out, QString());
+        QCOMPARE(outcome.status, 2);
+    }
+}
+
+void OprunTest::oddButLegalTasks_data()
+{
+    QTest::addColumn<QByteArray>("task");
+    QTest::addColumn<QString>("out");
+    QTest::newRow("no steps") << QByteArray("{\"steps\": []}") << "";
+    QTest::newRow("byte order mark") << QByteArray("\xEF\xBB\xBF{\"steps\": []}") << "";
+    QTest::newRow("a key twice")
+        << QByteArray(R"({"steps": [], "variables": {"a": {"type": "int", "value": 1},
+                          "a": {"type": "int", "value": 2}}})")
+        << "a = 2\n";
+    QTest::newRow("line feed in a name")
+        << QByteArray(R"({"steps": [], "variables": {"a\nb": {"type": "int"}}})") << "a\\nb = 0\n";
+    QTest::newRow("large integer in a list")
+        << QByteArray(
+               R"({"steps": [], "variables": {"a": {"type": "list", "value": [1e300, 0.1]}}})")
+        << "a = [1e+300,0.1]\n";
+}
+
+void OprunTest::oddButLegalTasks()
+{
+    QFETCH(QByteArray, task);
+    write("odd.json", task);
+    const Outcome outcome = run({"run", "odd.json"});
+    QCOMPARE(outcome.err, QString());
+    QTEST(outcome.out, "out");
+    QCOMPARE(outcome.status, 0);
+}
+
+void OprunTest::pluginByRelativePath()
+{
+    QFile::copy(PLUGIN_FILE, m_folder->filePath("libHere.so"));
+    for (const char *path : {"libHere.so", "./libHere.so"}) {
+        const Outcome outcome = run({"run", "task.json", "--print", "part", "--plugin", path});
+        QCOMPARE(outcome.err, QString());
+        QCOMPARE(outcome.out, QString("key=value;!\n"));
+    }
 }
 
 void OprunTest::writesTheReferencePage()
@@ -447,7 +544,8 @@ void OprunTest::pluginThatDoesNotLoad()
 {
     write("libNone.so", "not a library");
     const Outcome outcome = run({"run", "task.json", "--plugin", "libNone.so"});
-    QVERIFY2(outcome.err.startsWith("oprun: libNone.so: cannot be loaded as a plug-in ("),
+    QVERIFY2(outcome.err.startsWith("oprun: libNone.so: cannot be loaded as a plug-in ('") &&
+                 outcome.err.endsWith("is not an ELF object (file too small))\n"),
              qPrintable(outcome.err));
     QCOMPARE(outcome.err.count('\n'), 1);
     QCOMPARE(outcome.out, QString());
