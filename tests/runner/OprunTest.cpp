@@ -33,6 +33,7 @@ private Q_SLOTS:
     void refusesExamples();
     void oddButLegalTasks_data();
     void oddButLegalTasks();
+    void lastOfTwoKeysCounts();
     void pluginByRelativePath();
     void writesTheReferencePage();
     void helps_data();
@@ -54,7 +55,7 @@ private:
         QString err;
     };
 
-    Outcome run(const QStringList &arguments, const QString &locale = {}) const;
+    Outcome run(const QStringList &arguments, const QMap<QString, QString> &environment = {}) const;
     void write(const QString &name, const QByteArray &content) const;
 
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -94,15 +95,15 @@ void OprunTest::initTestCase()
     write("任务.json", sampleTask);
 }
 
-OprunTest::Outcome OprunTest::run(const QStringList &arguments, const QString &locale) const
+OprunTest::Outcome OprunTest::run(const QStringList &arguments,
+                                  const QMap<QString, QString> &environment) const
 {
     QProcess process;
     process.setWorkingDirectory(m_folder->path());
-    if (!locale.isEmpty()) {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("LC_ALL", locale);
-        process.setProcessEnvironment(environment);
-    }
+    QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
+    for (auto variable = environment.begin(); variable != environment.end(); ++variable)
+        variables.insert(variable.key(), variable.value());
+    process.setProcessEnvironment(variables);
     process.start(OPRUN_FILE, arguments);
     if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
         return {-1, {}, process.errorString()};
@@ -472,10 +473,6 @@ void OprunTest::oddButLegalTasks_data()
     QTest::addColumn<QString>("out");
     QTest::newRow("no steps") << QByteArray("{\"steps\": []}") << "";
     QTest::newRow("byte order mark") << QByteArray("\xEF\xBB\xBF{\"steps\": []}") << "";
-    QTest::newRow("a key twice")
-        << QByteArray(R"({"steps": [], "variables": {"a": {"type": "int", "value": 1},
-                          "a": {"type": "int", "value": 2}}})")
-        << "a = 2\n";
     QTest::newRow("line feed in a name")
         << QByteArray(R"({"steps": [], "variables": {"a\nb": {"type": "int"}}})") << "a\\nb = 0\n";
     QTest::newRow("large integer in a list")
@@ -492,6 +489,16 @@ void OprunTest::oddButLegalTasks()
     QCOMPARE(outcome.err, QString());
     QTEST(outcome.out, "out");
     QCOMPARE(outcome.status, 0);
+}
+
+void OprunTest::lastOfTwoKeysCounts()
+{
+    write("twice.json", R"({"steps": [], "variables": {"a": {"type": "int", "value": 1},
+                            "a": {"type": "int", "value": 2}}})");
+    // Qt 5.15's parser forgets to release the value that it drops.
+    const Outcome outcome = run({"run", "twice.json"}, {{"ASAN_OPTIONS", "detect_leaks=0"}});
+    QCOMPARE(outcome.out, QString("a = 2\n"));
+    QCOMPARE(outcome.err, QString());
 }
 
 void OprunTest::pluginByRelativePath()
@@ -615,8 +622,9 @@ void OprunTest::utf8WhateverTheLocale_data()
 void OprunTest::utf8WhateverTheLocale()
 {
     QFETCH(QString, locale);
-    const Outcome outcome = run(
-        {"run", "任务.json", "--set", "line=变量\U0001F600", "--print", "part", "--trace"}, locale);
+    const Outcome outcome =
+        run({"run", "任务.json", "--set", "line=变量\U0001F600", "--print", "part", "--trace"},
+            {{"LC_ALL", locale}});
     QCOMPARE(outcome.out, QString("变量\U0001F600!\n"));
     QCOMPARE(outcome.err, QString("steps[0]  添加文本: $line + ! -> $part\n"
                                   "          将 ! 添加到 $line 之后，存入 $part\n"
