@@ -16,6 +16,8 @@
 #include "operations/TextToNumberOperation.h"
 #include "operations/TextTrimOperation.h"
 
+#include <iterator>
+
 namespace {
 
 constexpr int interfaceVersion = 2;

@@ -1,5 +1,5 @@
-# Sourced by the other scripts: changes to the project's folder, installs what is missing, and
-# configures and builds the release preset.
+# Sourced by the other scripts: changes to the project's folder, installs what building and testing
+# needs, and offers them `install_packages` and `build_preset`.
 
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 

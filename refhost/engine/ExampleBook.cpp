@@ -44,14 +44,6 @@ QString kindName(QJsonValue::Type kind)
     }
 }
 
-Problem wrongKind(const QString &place, const QJsonValue &found, QJsonValue::Type kind)
-{
-    return {Reason::WrongKind,
-            {},
-            place,
-            QStringLiteral("%1; expected %2").arg(jsonText(found), kindName(kind))};
-}
-
 /// The first member that is unknown or of the wrong kind.
 std::optional<Problem> findFault(const QJsonObject &json, const Members &members,
                                  const QString &place)
@@ -67,7 +59,7 @@ std::optional<Problem> findFault(const QJsonObject &json, const Members &members
         }
         const QJsonValue::Type kind = members.value(member.key());
         if (member->type() != kind)
-            return wrongKind(memberPlace, *member, kind);
+            return wrongKind(memberPlace, *member, kindName(kind));
     }
     return std::nullopt;
 }
@@ -93,7 +85,7 @@ std::optional<Problem> findReserved(const WorkedExample &example, const QString 
 Result<WorkedExample> exampleFromJson(const QJsonValue &value, const QString &place)
 {
     if (!value.isObject())
-        return wrongKind(place, value, QJsonValue::Object);
+        return wrongKind(place, value, kindName(QJsonValue::Object));
     QJsonObject json = value.toObject();
     WorkedExample example;
     const QString resultKey = QStringLiteral("result");
@@ -116,7 +108,7 @@ Result<WorkedExample> exampleFromJson(const QJsonValue &value, const QString &pl
 Result<OperationPage> pageFromJson(const QJsonValue &value, const QString &place)
 {
     if (!value.isObject())
-        return wrongKind(place, value, QJsonValue::Object);
+        return wrongKind(place, value, kindName(QJsonValue::Object));
     const QJsonObject json = value.toObject();
     if (auto fault = findFault(json, pageMembers(), place))
         return *fault;

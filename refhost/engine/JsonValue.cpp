@@ -6,6 +6,7 @@
 #include <QJsonDocument>
 #include <QVariantList>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -157,6 +158,16 @@ QJsonValue variantToJson(const QVariant &value)
     if (value.type() == QVariant::Double && std::isfinite(value.toDouble()))
         return value.toDouble();
     return value.toString();
+}
+
+Problem wrongKind(const QString &place, const QJsonValue &found, const QString &expected)
+{
+    const bool missing = found.isUndefined();
+    return {missing ? Problem::Reason::MissingKey : Problem::Reason::WrongKind,
+            {},
+            place,
+            QStringLiteral("%1; expected %2")
+                .arg(missing ? QStringLiteral("missing") : jsonText(found), expected)};
 }
 
 QString jsonText(const QJsonValue &json)

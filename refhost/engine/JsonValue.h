@@ -20,5 +20,8 @@ Result<QVariant> variantFromText(const QString &text, VarType type);
 
 QJsonValue variantToJson(const QVariant &value);
 
+/// That `found`, at `place`, is another kind of JSON value than expected, or missing.
+Problem wrongKind(const QString &place, const QJsonValue &found, const QString &expected);
+
 /// `json` as compact JSON text, scalars included.
 QString jsonText(const QJsonValue &json);

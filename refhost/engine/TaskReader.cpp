@@ -50,14 +50,6 @@ std::optional<Problem> unknownKey(const QJsonObject &json, const QStringList &kn
     return std::nullopt;
 }
 
-Problem wrongKind(const QString &place, const QJsonValue &found, const QString &kind)
-{
-    const bool missing = found.isUndefined();
-    return at(place, missing ? Reason::MissingKey : Reason::WrongKind,
-              QStringLiteral("%1; expected %2")
-                  .arg(missing ? QStringLiteral("missing") : jsonText(found), kind));
-}
-
 Problem unknownType(const QString &place, const QJsonValue &found, const QStringList &known)
 {
     const bool missing = found.isUndefined();

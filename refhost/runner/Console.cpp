@@ -2,9 +2,7 @@
 
 #include "refhost/runner/OneLine.h"
 
-#include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
 
 #include <cerrno>
 #include <cstdio>
@@ -24,10 +22,9 @@ void Console::print(const QString &line)
     m_results += line.toUtf8() + '\n';
 }
 
-void Console::printJson(const QJsonValue &json)
+void Console::printJson(const QJsonObject &json)
 {
-    m_results += (json.isArray() ? QJsonDocument(json.toArray()) : QJsonDocument(json.toObject()))
-                     .toJson(QJsonDocument::Indented);
+    m_results += QJsonDocument(json).toJson(QJsonDocument::Indented);
 }
 
 void Console::note(const QString &line) const

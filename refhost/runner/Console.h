@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QByteArray>
-#include <QJsonValue>
+#include <QJsonObject>
 #include <QString>
 
 /// Results on standard output, everything else on standard error, both as UTF-8 whatever the
@@ -12,8 +12,8 @@ public:
     /// Adds one line of results.
     void print(const QString &line);
 
-    /// Adds results in JSON: an object or an array.
-    void printJson(const QJsonValue &json);
+    /// Adds results in JSON.
+    void printJson(const QJsonObject &json);
 
     /// Writes one line to standard error.
     void note(const QString &line) const;
