@@ -1,5 +1,6 @@
 #include "operations/TextAppendOperation.h"
 
+#include "operations/common/Concatenation.h"
 #include "operations/common/Operand.h"
 #include "operations/common/Presentation.h"
 #include "operations/common/ResultStore.h"
@@ -41,5 +42,5 @@ void TextAppendOperation::run() const
 {
     const QString source = resolveTextOperand(m_sourceText, scope);
     const QString added = resolveTextOperand(m_appendText, scope);
-    storeStringResult(scope, m_resultVar, source + added);
+    storeStringResult(scope, m_resultVar, concatenated({source, added}));
 }

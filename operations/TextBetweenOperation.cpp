@@ -16,14 +16,14 @@ QString cut(const QString &text, int mode, const QString &startMarker, const QSt
 {
     int begin = 0;
     if (mode != BeforeMarker) {
-        const int marker = text.indexOf(startMarker, 0, sensitivity);
+        const int marker = indexOfText(text, startMarker, 0, sensitivity);
         if (marker < 0)
             return {};
         begin = marker + startMarker.size();
     }
     if (mode == AfterMarker)
         return text.mid(begin);
-    const int end = text.indexOf(endMarker, begin, sensitivity);
+    const int end = indexOfText(text, endMarker, begin, sensitivity);
     return end < 0 ? QString() : text.mid(begin, end - begin);
 }
 

@@ -1,5 +1,6 @@
 #include "operations/TextCaseOperation.h"
 
+#include "operations/common/CaseConversion.h"
 #include "operations/common/Operand.h"
 #include "operations/common/Presentation.h"
 #include "operations/common/ResultStore.h"
@@ -12,8 +13,8 @@ enum CaseMode : int { Upper, Lower, CapitalFirst };
 /// In lower case, with the first UTF-16 code unit in upper case where it has one of a single unit.
 QString capitalized(const QString &text)
 {
-    QString result = text.toLower();
-    if (!result.isEmpty())
+    QString result = toLowerText(text);
+    if (!result.isEmpty() && result.at(0) != result.at(0).toUpper())
         result[0] = result.at(0).toUpper();
     return result;
 }
@@ -22,9 +23,9 @@ QString converted(const QString &text, int mode)
 {
     switch (mode) {
     case Upper:
-        return text.toUpper();
+        return toUpperText(text);
     case Lower:
-        return text.toLower();
+        return toLowerText(text);
     default:
         return capitalized(text);
     }

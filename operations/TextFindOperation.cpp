@@ -41,6 +41,6 @@ void TextFindOperation::run() const
 {
     const QString text = resolveTextOperand(m_sourceText, scope);
     const QString search = resolveTextOperand(m_searchText, scope);
-    const int position = text.indexOf(search, 0, caseSensitivity(m_ignoreCase));
+    const int position = indexOfText(text, search, 0, caseSensitivity(m_ignoreCase));
     storeNumberResult(scope, m_resultVar, position);
 }

@@ -1,21 +1,38 @@
 #include "operations/TextFromNumberOperation.h"
 
+#include "operations/common/Concatenation.h"
 #include "operations/common/Operand.h"
 #include "operations/common/Presentation.h"
 #include "operations/common/ResultStore.h"
 #include "operations/common/Warning.h"
 
 #include <QLocale>
+#include <QtNumeric>
 
 #include <algorithm>
 
 namespace {
 
+/// The most digits that a double can have behind the decimal point; all further ones are zeros.
+constexpr int mostDecimals = 1074;
+
+QString withZeros(const QString &text, int count, QChar zero)
+{
+    QString result = unwrittenText(qint64(text.size()) + count);
+    std::fill_n(std::copy(text.cbegin(), text.cend(), result.data()), count, zero);
+    return result;
+}
+
 QString formatted(double number, int decimals, bool useGrouping)
 {
+    const int digits = std::min(decimals, mostDecimals);
     // The default locale is the host's choice; only the grouping form follows it.
-    return useGrouping ? QLocale().toString(number, 'f', decimals)
-                       : QString::number(number, 'f', decimals);
+    const QString text = useGrouping ? QLocale().toString(number, 'f', digits)
+                                     : QString::number(number, 'f', digits);
+    if (decimals == digits || !qIsFinite(number))
+        return text;
+    const QChar zero = useGrouping ? QLocale().zeroDigit() : QLatin1Char('0');
+    return withZeros(text, decimals - digits, zero);
 }
 
 } // namespace
@@ -57,7 +74,7 @@ void TextFromNumberOperation::run() const
     bool isNumber = false;
     const double number = resolveNumberOperand(scope, m_value, &isNumber);
     if (!isNumber) {
-        warning() << "[TextFromNumber] 无法解析原数值" << m_value << "，已跳过";
+        warn("[TextFromNumber] 无法解析原数值", m_value, "，已跳过");
         return;
     }
     const int decimals = std::max(0, resolveIntOperand(scope, m_decimals, 0));

@@ -19,22 +19,11 @@ QVariantList readList(const VariableScope &variables, const QString &name)
     if (name.isEmpty())
         return {};
     if (variables.typeOf(name) != VarType::List) {
-        warning() << "[TextOp] 变量" << name << "不是列表类型，已跳过";
+        warn("[TextOp] 变量", name, "不是列表类型，已跳过");
         return {};
     }
     const QVariant value = variables.get(name);
     return isListLike(value) ? value.value<QVariantList>() : QVariantList();
-}
-
-QString joined(const QVariantList &elements, const QString &separator)
-{
-    QString text;
-    for (int i = 0; i < elements.size(); ++i) {
-        if (i > 0)
-            text += separator;
-        text += variantToText(elements.at(i));
-    }
-    return text;
 }
 
 } // namespace
@@ -77,5 +66,5 @@ void TextJoinOperation::run() const
     // Without a list the step goes on: the result variable is set to the empty text.
     const QVariantList elements = readList(*scope, m_listVar);
     const QString separator = resolveTextOperand(m_separator, scope);
-    storeStringResult(scope, m_resultVar, joined(elements, separator));
+    storeStringResult(scope, m_resultVar, listToText(elements, separator));
 }

@@ -1,5 +1,6 @@
 #include "operations/TextPadOperation.h"
 
+#include "operations/common/Concatenation.h"
 #include "operations/common/Operand.h"
 #include "operations/common/Presentation.h"
 #include "operations/common/ResultStore.h"
@@ -13,11 +14,10 @@ constexpr int middle = 1;
 constexpr int right = 2;
 
 /// As much of the fill as the total length leaves room for; all of it when there is no total.
-QString fittingFill(const QString &fill, int textLength, int totalLength)
+QStringView fittingFill(const QString &fill, int textLength, int totalLength)
 {
-    if (totalLength < 1)
-        return fill;
-    return fill.left(std::max(0, totalLength - textLength));
+    const int room = totalLength < 1 ? fill.size() : totalLength - textLength;
+    return QStringView(fill).left(std::clamp(room, 0, fill.size()));
 }
 
 } // namespace
@@ -79,7 +79,8 @@ void TextPadOperation::run() const
         place = chosen;
     else if (m_position == right)
         place = text.size();
-    QString padded = text;
-    padded.insert(place, fittingFill(fill, text.size(), total));
-    storeStringResult(scope, m_resultVar, padded);
+    const QStringView source(text);
+    storeStringResult(scope, m_resultVar,
+                      concatenated({source.left(place), fittingFill(fill, text.size(), total),
+                                    source.mid(place)}));
 }

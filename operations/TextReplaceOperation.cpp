@@ -1,9 +1,14 @@
 #include "operations/TextReplaceOperation.h"
 
+#include "operations/common/Concatenation.h"
 #include "operations/common/Operand.h"
 #include "operations/common/Presentation.h"
 #include "operations/common/ResultStore.h"
 #include "operations/common/TextSearch.h"
+
+#include <QVarLengthArray>
+
+#include <algorithm>
 
 namespace {
 
@@ -13,18 +18,50 @@ constexpr int firstOnly = 1;
 QString replacedFirst(const QString &text, const QString &search, const QString &replacement,
                       Qt::CaseSensitivity sensitivity)
 {
-    const int position = text.indexOf(search, 0, sensitivity);
+    const int position = indexOfText(text, search, 0, sensitivity);
     if (position < 0)
         return text;
-    return text.left(position) + replacement + text.mid(position + search.size());
+    const QStringView source(text);
+    return concatenated({source.left(position), replacement, source.mid(position + search.size())});
 }
 
-/// All occurrences in one pass, from left to right and without overlaps. An empty search text is
-/// found before every unit and at the end.
+using Positions = QVarLengthArray<int, 256>;
+
+/// Where the search text stands, from left to right and without overlaps. An empty one stands
+/// before every unit and at the end.
+Positions occurrences(const QString &text, const QString &search, Qt::CaseSensitivity sensitivity)
+{
+    Positions positions;
+    TextSearch occurrence(text, search, sensitivity);
+    const int step = std::max(1, search.size());
+    for (int i = occurrence.next(0); i >= 0; i = occurrence.next(i + step))
+        positions.append(i);
+    return positions;
+}
+
+/// With `replacement` in place of the `length` units at each of the positions.
+QString replacedAt(const Positions &positions, const QString &text, int length,
+                   const QString &replacement)
+{
+    const qint64 growth = qint64(replacement.size() - length) * positions.size();
+    QString result = unwrittenText(text.size() + growth);
+    QChar *end = result.data();
+    const QChar *rest = text.cbegin();
+    for (const int position : positions) {
+        end = std::copy(rest, text.cbegin() + position, end);
+        end = std::copy(replacement.cbegin(), replacement.cend(), end);
+        rest = text.cbegin() + position + length;
+    }
+    std::copy(rest, text.cend(), end);
+    return result;
+}
+
+/// All occurrences in one pass; what is put in is not searched again.
 QString replacedAll(const QString &text, const QString &search, const QString &replacement,
                     Qt::CaseSensitivity sensitivity)
 {
-    return QString(text).replace(search, replacement, sensitivity);
+    const Positions positions = occurrences(text, search, sensitivity);
+    return positions.isEmpty() ? text : replacedAt(positions, text, search.size(), replacement);
 }
 
 } // namespace

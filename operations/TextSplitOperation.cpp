@@ -2,11 +2,11 @@
 
 #include "operations/common/Operand.h"
 #include "operations/common/Presentation.h"
+#include "operations/common/TextSearch.h"
 #include "operations/common/Warning.h"
 
 #include "VariableScope.h"
 
-#include <QStringList>
 #include <QVariantList>
 
 #include <algorithm>
@@ -22,6 +22,7 @@ constexpr int bySeparator = 1;
 QVariantList splitByWidth(const QString &text, int width)
 {
     QVariantList pieces;
+    pieces.reserve(text.size() / width + 1);
     for (qint64 position = 0; position < text.size(); position += width)
         pieces.append(text.mid(static_cast<int>(position), width));
     return pieces;
@@ -33,16 +34,20 @@ QVariantList splitBySeparator(const QString &text, const QString &separator)
     if (separator.isEmpty())
         return {text};
     QVariantList pieces;
-    const QStringList parts = text.split(separator, Qt::KeepEmptyParts, Qt::CaseSensitive);
-    for (const QString &part : parts)
-        pieces.append(part);
+    TextSearch occurrence(text, separator, Qt::CaseSensitive);
+    int begin = 0;
+    for (int end = occurrence.next(0); end >= 0; end = occurrence.next(begin)) {
+        pieces.append(text.mid(begin, end - begin));
+        begin = end + separator.size();
+    }
+    pieces.append(text.mid(begin));
     return pieces;
 }
 
 void storeList(VariableScope &variables, const QString &name, const QVariantList &list)
 {
     if (variables.typeOf(name) != VarType::List) {
-        warning() << "[TextOp] 变量" << name << "未声明为列表，已跳过";
+        warn("[TextOp] 变量", name, "未声明为列表，已跳过");
         return;
     }
     variables.set(name, list);

@@ -43,7 +43,7 @@ void TextToNumberOperation::run() const
     bool isNumber = false;
     const double number = text.toDouble(&isNumber);
     if (!isNumber) {
-        warning() << "[TextToNumber] 无法将" << text << "解析为数值，已跳过";
+        warn("[TextToNumber] 无法将", text, "解析为数值，已跳过");
         return;
     }
     storeNumberResult(scope, m_resultVar, number);

@@ -6,7 +6,6 @@
 #include "operations/common/Warning.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace {
 
@@ -33,9 +32,14 @@ QString trimEnds(const QString &text, bool atStart, bool atEnd)
 
 QString withoutSpaces(const QString &text)
 {
-    QString kept;
-    kept.reserve(text.size());
-    std::remove_copy_if(text.cbegin(), text.cend(), std::back_inserter(kept), isSpace);
+    const auto firstSpace = std::find_if(text.cbegin(), text.cend(), isSpace);
+    if (firstSpace == text.cend())
+        return text;
+    QString kept(text.size(), Qt::Uninitialized);
+    const auto begin = kept.begin();
+    auto end = std::copy(text.cbegin(), firstSpace, begin);
+    end = std::remove_copy_if(firstSpace, text.cend(), end, isSpace);
+    kept.truncate(static_cast<int>(end - begin));
     return kept;
 }
 

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "operations/common/Warning.h"
-
 #include <QDataStream>
 #include <QString>
 
+#include <new>
 #include <tuple>
 
 class QObject;
+struct QMetaObject;
 
 /// What all operations do alike: running, saving, loading and copying.
 ///
@@ -15,21 +15,26 @@ class QObject;
 ///
 /// - `fields`, a constant tuple of pointers to its stored members in the order of their properties.
 ///   The record and the copy both come from it.
-/// - `void run() const`, its own work. It is called with a scope and a result variable present.
+/// - `void run() const`, its own work. It is called with a scope and a result variable present. It
+///   may throw `std::bad_alloc`, before it writes: writing the result is the last thing it does.
 class OperationFrame
 {
 public:
     /// Runs the operation unless it has no scope (silently) or no result variable (one warning).
+    /// When there is no memory for what it does, one warning tells so and nothing is written.
     template <typename T>
     static void run(const T &operation)
     {
         if (!operation.scope)
             return;
-        if (operation.m_resultVar.isEmpty()) {
-            warnNoResultVariable(T::staticMetaObject);
-            return;
+        try {
+            if (operation.m_resultVar.isEmpty())
+                warnNoResultVariable(T::staticMetaObject);
+            else
+                operation.run();
+        } catch (const std::bad_alloc &) {
+            warnTooLarge(T::staticMetaObject);
         }
-        operation.run();
     }
 
     /// Writes the base record, then every field. The record has no header of its own.
@@ -61,4 +66,5 @@ public:
 
 private:
     static void warnNoResultVariable(const QMetaObject &operationClass);
+    static void warnTooLarge(const QMetaObject &operationClass) noexcept;
 };

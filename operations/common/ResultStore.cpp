@@ -10,7 +10,7 @@ bool storeStringResult(VariableScope *scope, const QString &name, const QString 
     if (!scope || name.isEmpty())
         return false;
     if (scope->typeOf(name) != VarType::String) {
-        warning() << "[TextOp] 变量" << name << "未声明为字符串，已跳过";
+        warn("[TextOp] 变量", name, "未声明为字符串，已跳过");
         return false;
     }
     scope->set(name, text);
@@ -23,13 +23,13 @@ bool storeNumberResult(VariableScope *scope, const QString &name, double value)
         return false;
     const VarType type = scope->typeOf(name);
     if (type == VarType::None) {
-        warning() << "[TextOp] 变量" << name << "未声明，已跳过写入";
+        warn("[TextOp] 变量", name, "未声明，已跳过写入");
         return false;
     }
     bool converts = false;
     const QVariant converted = convertToVarType(value, type, &converts);
     if (!converts) {
-        warning() << "[TextOp] 变量" << name << "数值类型不匹配，已跳过写入";
+        warn("[TextOp] 变量", name, "数值类型不匹配，已跳过写入");
         return false;
     }
     scope->set(name, converted);

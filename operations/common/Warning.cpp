@@ -3,11 +3,11 @@
 #include <QMessageLogger>
 #include <QMetaObject>
 
-QDebug warning()
+void logWarning(const QString &line)
 {
     // No file, line or function, whatever the build type; but a category, since handlers that print
     // it do not expect a null one.
-    return QMessageLogger(nullptr, 0, nullptr, "default").warning();
+    QMessageLogger(nullptr, 0, nullptr, "default").warning("%s", line.toUtf8().constData());
 }
 
 QByteArray warningTag(const QMetaObject &operationClass)
@@ -20,5 +20,5 @@ QByteArray warningTag(const QMetaObject &operationClass)
 void warnUnknownMode(const QMetaObject &operationClass, const char *what, int mode)
 {
     const QByteArray line = warningTag(operationClass) + ' ' + what;
-    warning() << line.constData() << mode << "，已跳过";
+    warn(line.constData(), mode, "，已跳过");
 }
