@@ -12,16 +12,17 @@ namespace {
 /// can take the second half of a surrogate pair for an unpaired one, ignoring case.
 constexpr int shortText = 500;
 
-/// How often the units of a text occur, those with the same low byte counted together.
+/// How often the units of a text occur in a sample of it, those with the same low byte counted
+/// together. The text has at least `smallestText` units.
 class UnitSample
 {
 public:
+    static constexpr int smallestText = 1024;
+
     explicit UnitSample(QStringView text)
     {
         constexpr int stretches = 8;
         constexpr int stretchSize = 32;
-        if (text.size() < 4 * stretches * stretchSize)
-            return; // too short to be worth it
         for (int i = 0; i < stretches; ++i) {
             for (const QChar unit : text.mid(text.size() / stretches * i, stretchSize))
                 ++m_counts[unit.cell()];
@@ -77,8 +78,12 @@ TextSearch::TextSearch(const QString &text, const QString &searched,
     , m_searched(searched)
     , m_foldCase(sensitivity == Qt::CaseInsensitive)
 {
-    if (!m_searched.isEmpty() && m_searched.size() <= m_text.size())
-        chooseAnchor();
+    if (m_searched.isEmpty() || m_searched.size() > m_text.size())
+        return;
+    if (m_text.size() >= UnitSample::smallestText)
+        m_anchor = rarestUnit();
+    for (const ushort unit : variantsAt(m_anchor))
+        m_lookouts.append({unit, -1});
 }
 
 int TextSearch::next(int from)
@@ -99,12 +104,14 @@ int TextSearch::next(int from)
     return from <= last ? nextAmongMany(from) : -1;
 }
 
-/// Takes the rarest unit; of those, the first with the fewest other forms.
-void TextSearch::chooseAnchor()
+/// The index of the unit that is the rarest in a sample of the text; of those, the first with the
+/// fewest other forms. Looks at both ends of the searched text only.
+int TextSearch::rarestUnit() const
 {
     constexpr int unitsAtEachEnd = 16;
     constexpr int costOfForm = 1;
     const UnitSample sample(m_text);
+    int rarest = 0;
     int lowestCost = std::numeric_limits<int>::max();
     for (int i = 0; i < m_searched.size(); ++i) {
         if (i == unitsAtEachEnd)
@@ -114,11 +121,10 @@ void TextSearch::chooseAnchor()
             cost += sample.count(unit) + costOfForm;
         if (cost > 0 && cost < lowestCost) {
             lowestCost = cost;
-            m_anchor = i;
+            rarest = i;
         }
     }
-    for (const ushort unit : variantsAt(m_anchor))
-        m_lookouts.append({unit, -1});
+    return rarest;
 }
 
 /// The units of a text that can stand for the one at `index` of the searched text; none if they

@@ -42,7 +42,7 @@ private:
         int position;
     };
 
-    void chooseAnchor();
+    int rarestUnit() const;
     FoldedText::Variants variantsAt(int index) const;
     int nextAnchor(int from);
     int matchedUnits(int position) const;
