@@ -15,3 +15,6 @@ struct MutantResult
     QString equalBecause; ///< of a survivor: why no test can notice it, empty when one could
     double seconds = 0;   ///< what it took to find out
 };
+
+/// The outcome as the reports call it.
+QString outcomeName(MutantResult::Outcome outcome);

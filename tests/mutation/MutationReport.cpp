@@ -17,20 +17,6 @@ double percent(int part, int whole)
     return whole > 0 ? 100.0 * part / whole : 100.0;
 }
 
-QString outcomeName(Outcome outcome)
-{
-    switch (outcome) {
-    case Outcome::Noticed:
-        return QStringLiteral("noticed");
-    case Outcome::TimedOut:
-        return QStringLiteral("timed out");
-    case Outcome::Survived:
-        return QStringLiteral("survived");
-    default:
-        return QStringLiteral("did not build");
-    }
-}
-
 QJsonObject toObject(const MutantResult &result)
 {
     const Mutation &mutation = result.mutation;

@@ -150,19 +150,14 @@ bool Workspace::configure()
 {
     if (QFile::exists(m_build + QStringLiteral("/build.ninja")))
         return true;
-    const QStringList command{QStringLiteral("cmake"),
-                              QStringLiteral("-S"),
-                              m_source,
-                              QStringLiteral("-B"),
-                              m_build,
-                              QStringLiteral("-G"),
-                              QStringLiteral("Ninja"),
-                              QStringLiteral("-D"),
-                              QStringLiteral("CMAKE_BUILD_TYPE=Debug"),
-                              QStringLiteral("-D"),
-                              QStringLiteral("CMAKE_CXX_FLAGS_DEBUG=-O0"),
-                              QStringLiteral("-D"),
-                              QStringLiteral("CMAKE_CXX_FLAGS=-w")};
+    QStringList command{
+        QStringLiteral("cmake"), QStringLiteral("-S"),   m_source, QStringLiteral("-B"), m_build,
+        QStringLiteral("-G"),    QStringLiteral("Ninja")};
+    for (const QString &setting :
+         {QStringLiteral("CMAKE_BUILD_TYPE=Debug"), QStringLiteral("CMAKE_CXX_FLAGS_DEBUG=-O0"),
+          QStringLiteral("CMAKE_CXX_FLAGS=-w"),
+          QStringLiteral("CMAKE_PROJECT_INCLUDE=%1tests/mutation/precompile.cmake").arg(m_source)})
+        command << QStringLiteral("-D") << setting;
     return LimitedProcess(m_source, m_log).run(command, buildLimit) == LimitedProcess::End::Success;
 }
 

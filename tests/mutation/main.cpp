@@ -67,21 +67,16 @@ int list(const QVector<Mutation> &mutations)
 
 void printProgress(int done, int all, const MutantResult &result)
 {
-    using Outcome = MutantResult::Outcome;
-    QString word = QStringLiteral("noticed");
-    if (result.outcome == Outcome::TimedOut)
-        word = QStringLiteral("timed out");
-    else if (result.outcome == Outcome::Survived)
-        word = QStringLiteral("SURVIVED");
-    else if (result.outcome == Outcome::DidNotBuild)
-        word = QStringLiteral("did not build");
-    print(stderr, QStringLiteral("[%1/%2] %3 s, %4: %5:%6: %7\n")
-                      .arg(done)
-                      .arg(all)
-                      .arg(result.seconds, 0, 'f', 1)
-                      .arg(word, result.mutation.file)
-                      .arg(result.mutation.line)
-                      .arg(result.mutation.after));
+    const bool survived = result.outcome == MutantResult::Outcome::Survived;
+    const QString name = outcomeName(result.outcome);
+    const QString word = survived ? name.toUpper() : name;
+    const QString form = QStringLiteral("[%1/%2] %3 s, %4: %5:%6: ");
+    print(stderr, form.arg(done)
+                          .arg(all)
+                          .arg(result.seconds, 0, 'f', 1)
+                          .arg(word, result.mutation.file)
+                          .arg(result.mutation.line) +
+                      result.mutation.after + QLatin1Char('\n'));
 }
 
 /// Tries the mutations; the answer is the exit status.
