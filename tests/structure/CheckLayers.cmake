@@ -1,5 +1,6 @@
 # Fails when a folder includes something of a folder it must not know. The arrows of the project:
-# plugin -> operations -> operations/common -> host, and refhost -> host; tests may know all.
+# plugin -> operations -> operations/common -> host, and refhost -> host; benchmarks know the host and
+# refhost/engine, tests may know all.
 #
 #   cmake -D SOURCE_DIR=... -P CheckLayers.cmake
 
@@ -19,10 +20,11 @@ function(forbid folder pattern)
     endforeach()
 endfunction()
 
-forbid(host "plugin/|operations/|refhost/|tests/")
-forbid(operations/common "plugin/|operations/Text|refhost/|tests/|host/")
-forbid(operations "plugin/|refhost/|tests/|host/")
-forbid(plugin "refhost/|tests/|host/")
-forbid(refhost/core "plugin/|operations/|refhost/engine|refhost/runner|tests/")
-forbid(refhost/engine "plugin/|operations/|refhost/core|refhost/runner|tests/")
-forbid(refhost/runner "plugin/|operations/|refhost/core|tests/")
+forbid(host "plugin/|operations/|refhost/|tests/|benchmarks/")
+forbid(operations/common "plugin/|operations/Text|refhost/|tests/|benchmarks/|host/")
+forbid(operations "plugin/|refhost/|tests/|benchmarks/|host/")
+forbid(plugin "refhost/|tests/|benchmarks/|host/")
+forbid(refhost/core "plugin/|operations/|refhost/engine|refhost/runner|tests/|benchmarks/")
+forbid(refhost/engine "plugin/|operations/|refhost/core|refhost/runner|tests/|benchmarks/")
+forbid(refhost/runner "plugin/|operations/|refhost/core|tests/|benchmarks/")
+forbid(benchmarks "plugin/|operations/|refhost/core|refhost/runner|tests/")
