@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -13,14 +14,17 @@ namespace {
 constexpr int shortText = 500;
 
 /// How often the units of a text occur in a sample of it, those with the same low byte counted
-/// together. The text has at least `smallestText` units.
+/// together; there is none of a short text.
 class UnitSample
 {
 public:
-    static constexpr int smallestText = 1024;
-
     explicit UnitSample(QStringView text)
     {
+        constexpr int smallestText = 1024;
+        if (text.size() < smallestText)
+            return;
+        m_counts.fill(0);
+        m_isTaken = true;
         constexpr int stretches = 8;
         constexpr int stretchSize = 32;
         for (int i = 0; i < stretches; ++i) {
@@ -29,24 +33,35 @@ public:
         }
     }
 
-    int count(ushort unit) const { return m_counts[unit & 0xff]; }
+    int count(ushort unit) const { return m_isTaken ? m_counts[unit & 0xff] : 0; }
 
 private:
-    std::array<int, 256> m_counts{};
+    bool m_isTaken = false;
+    std::array<int, 256> m_counts; ///< left as it is, when nothing is counted
 };
 
 /// The first position of `unit` at or after `from`, the size of the text without one.
-int indexOfUnit(const QString &text, ushort unit, int from)
+int indexOfUnit(const QString &text, QChar unit, int from)
 {
     // A vectorised search that ends after a few units costs more than looking at them one by one.
     constexpr int nearby = 8;
     const int nearEnd = std::min(from + nearby, text.size());
-    for (int i = from; i < nearEnd; ++i) {
-        if (text.at(i).unicode() == unit)
-            return i;
-    }
-    const int position = text.indexOf(QChar(unit), nearEnd);
+    const auto near = std::find(text.cbegin() + from, text.cbegin() + nearEnd, unit);
+    if (near != text.cbegin() + nearEnd)
+        return static_cast<int>(near - text.cbegin());
+    const int position = text.indexOf(unit, nearEnd);
     return position < 0 ? text.size() : position;
+}
+
+/// 1 if `unit` has one of the first `count` forms, else 0: in 16 bits and without a branch, so that
+/// the processor does it for many units at once.
+template <int count, typename Forms>
+ushort hasForm(ushort unit, const Forms &forms)
+{
+    ushort found = 0;
+    for (std::size_t i = 0; i < count; ++i)
+        found = static_cast<ushort>(found | (unit == forms[i]));
+    return found;
 }
 
 /// The number of units from the start of `searched` that stand at `position` of `text`.
@@ -78,12 +93,8 @@ TextSearch::TextSearch(const QString &text, const QString &searched,
     , m_searched(searched)
     , m_foldCase(sensitivity == Qt::CaseInsensitive)
 {
-    if (m_searched.isEmpty() || m_searched.size() > m_text.size())
-        return;
-    if (m_text.size() >= UnitSample::smallestText)
-        m_anchor = rarestUnit();
-    for (const ushort unit : variantsAt(m_anchor))
-        m_lookouts.append({unit, -1});
+    if (!m_searched.isEmpty() && m_searched.size() <= m_text.size())
+        chooseFeatures();
 }
 
 int TextSearch::next(int from)
@@ -91,8 +102,8 @@ int TextSearch::next(int from)
     const int last = m_text.size() - m_searched.size();
     if (m_searched.isEmpty())
         return from <= last ? from : -1;
-    while (from <= last && !m_anchorIsFrequent) {
-        const int position = nextAnchor(from + m_anchor) - m_anchor;
+    while (from <= last && !m_skips) {
+        const int position = nextPlace(from, last);
         if (position > last)
             return -1;
         const int matched = matchedUnits(position);
@@ -101,30 +112,46 @@ int TextSearch::next(int from)
         charge(position, matched);
         from = position + 1;
     }
-    return from <= last ? nextAmongMany(from) : -1;
+    return from <= last ? nextBySkipping(from) : -1;
 }
 
-/// The index of the unit that is the rarest in a sample of the text; of those, the first with the
-/// fewest other forms. Looks at both ends of the searched text only.
-int TextSearch::rarestUnit() const
+/// The two units that are the rarest in a sample of the text, those with fewer forms first; the
+/// first two in a short text. Looks at both ends of the searched text only.
+void TextSearch::chooseFeatures()
 {
     constexpr int unitsAtEachEnd = 16;
-    constexpr int costOfForm = 1;
     const UnitSample sample(m_text);
-    int rarest = 0;
-    int lowestCost = std::numeric_limits<int>::max();
+    int lowest = std::numeric_limits<int>::max();
+    int secondLowest = lowest;
+    int first = 0;
+    int second = 0;
     for (int i = 0; i < m_searched.size(); ++i) {
         if (i == unitsAtEachEnd)
             i = std::max(i, m_searched.size() - unitsAtEachEnd);
-        int cost = 0;
+        int count = 0;
         for (const ushort unit : variantsAt(i))
-            cost += sample.count(unit) + costOfForm;
-        if (cost > 0 && cost < lowestCost) {
-            lowestCost = cost;
-            rarest = i;
+            count += sample.count(unit) + 1;
+        if (count > 0 && count < lowest) {
+            secondLowest = std::exchange(lowest, count);
+            second = std::exchange(first, i);
+        } else if (count > 0 && count < secondLowest) {
+            secondLowest = count;
+            second = i;
         }
     }
-    return rarest;
+    m_first = featureAt(first);
+    m_second = featureAt(second);
+    m_forms = std::max(variantsAt(first).size(), variantsAt(second).size());
+}
+
+TextSearch::Feature TextSearch::featureAt(int index) const
+{
+    const FoldedText::Variants variants = variantsAt(index);
+    Feature feature;
+    feature.index = index;
+    feature.forms.fill(variants.first());
+    std::copy(variants.cbegin(), variants.cend(), feature.forms.begin());
+    return feature;
 }
 
 /// The units of a text that can stand for the one at `index` of the searched text; none if they
@@ -138,16 +165,38 @@ FoldedText::Variants TextSearch::variantsAt(int index) const
     return FoldedText::variantsOf(m_searched.at(index));
 }
 
-/// The first position at or after `from` of a unit to look out for, the size of the text without.
-int TextSearch::nextAnchor(int from)
+/// The first position from `from` to `last` at which both features stand, beyond `last` without
+/// one.
+int TextSearch::nextPlace(int from, int last) const
 {
-    int nearest = m_text.size();
-    for (Lookout &lookout : m_lookouts) {
-        if (lookout.position < from)
-            lookout.position = indexOfUnit(m_text, lookout.unit, from);
-        nearest = std::min(nearest, lookout.position);
+    if (m_searched.size() == 1 && m_forms == 1)
+        return indexOfUnit(m_text, m_searched.at(0), from);
+    if (m_forms == 1)
+        return nextPlaceOf<1>(from, last);
+    return m_forms == 2 ? nextPlaceOf<2>(from, last) : nextPlaceOf<mostForms>(from, last);
+}
+
+template <int forms>
+int TextSearch::nextPlaceOf(int from, int last) const
+{
+    constexpr int block = 64;
+    const ushort *first = m_text.utf16() + m_first.index;
+    const ushort *second = m_text.utf16() + m_second.index;
+    const auto firstForms = m_first.forms;
+    const auto secondForms = m_second.forms;
+    int position = from;
+    for (; position <= last - block; position += block) {
+        ushort found = 0;
+        for (int i = position; i < position + block; ++i)
+            found = static_cast<ushort>(found | (hasForm<forms>(first[i], firstForms) &
+                                                 hasForm<forms>(second[i], secondForms)));
+        if (found != 0)
+            break;
     }
-    return nearest;
+    while (position <= last && (hasForm<forms>(first[position], firstForms) &
+                                hasForm<forms>(second[position], secondForms)) == 0)
+        ++position;
+    return position;
 }
 
 int TextSearch::matchedUnits(int position) const
@@ -160,13 +209,13 @@ int TextSearch::matchedUnits(int position) const
 /// search has to take over; for a single unit there is none better.
 void TextSearch::charge(int position, int comparedUnits)
 {
-    constexpr int costOfComparison = 20;
-    constexpr int credit = 256;
+    constexpr int costOfComparison = 40;
+    constexpr int credit = 512;
     m_wasted += comparedUnits + costOfComparison;
-    m_anchorIsFrequent = m_wasted > position + credit && m_searched.size() > 1;
+    m_skips = m_wasted > position + credit && m_searched.size() > 1;
 }
 
-int TextSearch::nextAmongMany(int from)
+int TextSearch::nextBySkipping(int from)
 {
     // With a few units only, Qt's search has nothing to lose: comparing is no more than looking.
     constexpr int fewUnits = 5;

@@ -4,8 +4,8 @@
 #include "operations/common/SkipSearch.h"
 
 #include <QString>
-#include <QVarLengthArray>
 
+#include <array>
 #include <optional>
 
 /// How texts are compared when letter case counts, and when it does not.
@@ -22,9 +22,9 @@ int indexOfText(const QString &text, const QString &searched, int from,
 /// Finds the occurrences of a text in another, one after the other: those that `QStringMatcher`
 /// finds, in time linear in the two texts whatever they hold.
 ///
-/// Qt's search for a single unit uses the processor's vector instructions, so the search goes from
-/// one occurrence of the rarest unit to the next and compares there. Where that unit is too
-/// frequent for this it goes on with a search that looks at more than one.
+/// Looks for two units of the searched text, the rarest ones, at many places at once, and compares
+/// where both stand. Where they stand together too often for this, it goes on with a search that
+/// skips. A single unit is left to Qt, whose search for one uses vector instructions.
 class TextSearch
 {
 public:
@@ -35,27 +35,35 @@ public:
     int next(int from);
 
 private:
-    /// A unit to look out for, and where it was last seen.
-    struct Lookout
+    static constexpr int mostForms = 4;
+
+    /// A unit of the searched text that is looked for, in all of its forms.
+    struct Feature
     {
-        ushort unit;
-        int position;
+        int index = 0;
+        std::array<ushort, mostForms> forms{}; ///< filled up with the first
     };
 
-    int rarestUnit() const;
+    void chooseFeatures();
+    Feature featureAt(int index) const;
     FoldedText::Variants variantsAt(int index) const;
-    int nextAnchor(int from);
+
+    int nextPlace(int from, int last) const;
+    template <int forms>
+    int nextPlaceOf(int from, int last) const;
+
     int matchedUnits(int position) const;
     void charge(int position, int comparedUnits);
-    int nextAmongMany(int from);
+    int nextBySkipping(int from);
 
     QString m_text;
     QString m_searched;
     bool m_foldCase;
-    int m_anchor = 0; ///< the index in the searched text of the unit to look out for
-    QVarLengthArray<Lookout, 8> m_lookouts;
-    qint64 m_wasted = 0; ///< units compared for nothing
-    bool m_anchorIsFrequent = false;
+    Feature m_first;
+    Feature m_second;
+    int m_forms = 1;      ///< the most forms that one of the two has
+    qint64 m_wasted = 0;  ///< the effort spent on comparing for nothing, in units looked at
+    bool m_skips = false; ///< whether the search that skips has taken over
     std::optional<SkipSearch<QStringView>> m_exactSearch;
     std::optional<SkipSearch<FoldedText>> m_foldedSearch;
 };

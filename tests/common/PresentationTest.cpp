@@ -13,6 +13,7 @@ private Q_SLOTS:
     void variableName();
     void fillsInOrder();
     void fillsNumbers();
+    void leavesWhatWouldNotFit();
     void laterValuesFillMarkersInEarlierOnes();
 };
 
@@ -57,6 +58,15 @@ void PresentationTest::fillsInOrder()
 void PresentationTest::fillsNumbers()
 {
     QCOMPARE(fillMarkers("[%1 %2]", -7, QString("x")), QString("[-7 x]"));
+}
+
+/// Filling these would take 70,000 times 70,000 units, more than Qt can count.
+void PresentationTest::leavesWhatWouldNotFit()
+{
+    const QString pattern = QString("%2").repeated(70000);
+    const QString value(70000, 'x');
+    QCOMPARE(fillMarkers("%1", pattern, value), pattern);
+    QCOMPARE(fillMarkers("%1 %2", value, QString("y")), value + " y");
 }
 
 void PresentationTest::laterValuesFillMarkersInEarlierOnes()

@@ -15,6 +15,8 @@ class ValueTextTest : public QuietTest
 private Q_SLOTS:
     void text_data();
     void text();
+    void separatedText();
+    void deeplyNested();
     void listLike_data();
     void listLike();
 };
@@ -64,6 +66,28 @@ void ValueTextTest::text()
     QFETCH(QVariant, value);
     QFETCH(QString, expected);
     QCOMPARE(variantToText(value), expected);
+}
+
+void ValueTextTest::separatedText()
+{
+    QCOMPARE(listToText({}, "-"), QString());
+    QCOMPARE(listToText({"a"}, "-"), QString("a"));
+    QCOMPARE(listToText({"a", 1, "b"}, "--"), QString("a--1--b"));
+    // A list within the list keeps its own separator.
+    QCOMPARE(listToText({listOf({1, listOf({"x", List()})}), "y"}, "|"), QString("1, x, |y"));
+}
+
+/// Deeper than a call within a call could go, and without rendering anything twice.
+void ValueTextTest::deeplyNested()
+{
+    constexpr int depth = 10000;
+    const QString large(100000, 'x');
+    List list{large};
+    for (int i = 1; i < depth; ++i)
+        list = listOf({list});
+    QCOMPARE(variantToText(list), large);
+    list = listOf({list, "end"});
+    QCOMPARE(variantToText(list), large + ", end");
 }
 
 void ValueTextTest::listLike_data()

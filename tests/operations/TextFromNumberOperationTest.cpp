@@ -60,6 +60,11 @@ void TextFromNumberOperationTest::resultRows() const
     row("places beyond 32 bits", "3.7", "2147483648", "4");
     row("infinite places", "3.7", "inf", "4");
     row("places that are nan", "3.7", "nan", "4");
+    row("all the places there are", "5e-324", "1074", QString::number(5e-324, 'f', 1074));
+    row("more places than there are", "-5e-324", "1075", QString::number(-5e-324, 'f', 1074) + "0");
+    row("thousands of places", "0.1", "3000", QString::number(0.1, 'f', 3000));
+    row("places of infinity", "inf", "3000", "inf");
+    row("places of nan", "nan", "3000", "nan");
     row("places from a variable", "2", "$n", "2.000");
     row("places from an undeclared variable", "3.7", "$none", "4");
     row("places from a list", "3.7", "$list", "4");

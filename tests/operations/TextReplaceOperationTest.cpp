@@ -83,6 +83,21 @@ void TextReplaceOperationTest::resultRows() const
     row("missing search", "ab", "$none", "-", "-a-b-", "-ab");
     row("missing replacement", "abc", "b", "$none", "ac", "ac");
 
+    row("replaced by itself", "abab", "ab", "ab", "abab", "abab");
+    row("pair beside its halves", "\U00010400" + QString(QChar(0xDC00)), QChar(0xDC00), "-",
+        QString(QChar(0xD801)) + "--", QString(QChar(0xD801)) + "-" + QChar(0xDC00));
+    row("half a pair ignoring case", "\U00010400" + QString(QChar(0xDC00)), QChar(0xDC00), "-",
+        "\U00010400-", QString(QChar(0xD801)) + "-" + QChar(0xDC00), true);
+    gives("many, made longer",
+          {{"sourceText", QString("a,").repeated(3000)}, {"oldText", ","}, {"newText", "--"}},
+          QString("a--").repeated(3000));
+    gives("many, made shorter",
+          {{"sourceText", QString("aXX").repeated(3000)}, {"oldText", "xx"}, {"ignoreCase", true}},
+          QString(3000, 'a'));
+    warns("too large",
+          {{"sourceText", QString(70000, 'a')}, {"oldText", "a"}, {"newText", QString(70000, 'b')}},
+          {"[TextReplace] 结果过大，已跳过"});
+
     const Settings twice{{"sourceText", "xx"}, {"oldText", "x"}, {"newText", "y"}};
     Settings unknown = twice;
     unknown.insert("replaceScope", 2);

@@ -1,0 +1,88 @@
+#include "tests/support/QuietTest.h"
+
+#include "operations/common/CaseConversion.h"
+
+#include <QtTest>
+
+class CaseConversionTest : public QuietTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void equalsQt_data();
+    void equalsQt();
+    void unchangedTextIsShared();
+    void everyUnitInALongText();
+    void growsInLinearTime();
+};
+
+void CaseConversionTest::equalsQt_data()
+{
+    QTest::addColumn<QString>("part");
+    QTest::addColumn<int>("count");
+
+    const QString high(QChar(0xD801));
+    for (const int count : {1, 700, 2048, 5000}) {
+        const auto row = [&](const char *name, const QString &part) {
+            QTest::addRow("%s, %d times", name, count) << part << count;
+        };
+        row("ascii", "aB");
+        row("chinese", "中文");
+        row("sharp s", "ß");
+        row("sharp s among others", "Straße ");
+        row("dotted i", "İx");
+        row("ligatures", "ﬃﬀ");
+        row("greek", "ΐΰᾳΣς");
+        row("pairs with a case", "\U00010400\U00010428ß");
+        row("pairs before growing letters", "x\U00010428\U0001F600ß");
+        row("first halves alone", "ß" + high + "aß");
+        row("first half at the end of a piece", "ßx" + high + QChar(0xDC28) + "y");
+        row("second halves alone", QString("ß") + QChar(0xDC28) + "a");
+        row("first halves only", high);
+        row("first halves and growing letters", high + high + QChar(0xDC28) + "ß");
+    }
+}
+
+void CaseConversionTest::equalsQt()
+{
+    QFETCH(QString, part);
+    QFETCH(int, count);
+    for (const QString &text : {part.repeated(count), "a" + part.repeated(count)}) {
+        QCOMPARE(toUpperText(text), text.toUpper());
+        QCOMPARE(toLowerText(text), text.toLower());
+    }
+}
+
+void CaseConversionTest::unchangedTextIsShared()
+{
+    const QString text = QString("大写").repeated(3000);
+    QCOMPARE(toUpperText(text).constData(), text.constData());
+    QCOMPARE(toLowerText(text).constData(), text.constData());
+}
+
+/// Should Qt come to know a letter that grows and is not expected to, this is where it shows.
+void CaseConversionTest::everyUnitInALongText()
+{
+    for (uint unit = 0; unit < 0x10000; ++unit) {
+        const QString text(3000, QChar(static_cast<ushort>(unit)));
+        const QString one = text.left(1);
+        if (one.toUpper().size() == 1 && one.toLower().size() == 1)
+            continue;
+        QCOMPARE(toUpperText(text), one.toUpper().repeated(3000));
+        QCOMPARE(toLowerText(text), one.toLower().repeated(3000));
+    }
+}
+
+/// Moving the rest of the text for each of these letters would take a minute.
+void CaseConversionTest::growsInLinearTime()
+{
+    const QString text(2000000, QChar(0xDF));
+    QElapsedTimer timer;
+    timer.start();
+    QCOMPARE(toUpperText(text).size(), 2 * text.size());
+    QVERIFY(timer.elapsed() < 10000);
+}
+
+QTEST_GUILESS_MAIN(CaseConversionTest)
+
+#include "CaseConversionTest.moc"
