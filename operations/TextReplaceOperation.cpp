@@ -39,6 +39,19 @@ Positions occurrences(const QString &text, const QString &search, Qt::CaseSensit
     return positions;
 }
 
+/// Appends a piece at `end`, which moves on. Most pieces are short, and then a call costs more than
+/// the copying.
+void append(QChar *&end, const QChar *begin, int size)
+{
+    constexpr int shortPiece = 8;
+    if (size > shortPiece) {
+        end = std::copy_n(begin, size, end);
+        return;
+    }
+    for (int i = 0; i < size; ++i)
+        *end++ = begin[i];
+}
+
 /// With `replacement` in place of the `length` units at each of the positions.
 QString replacedAt(const Positions &positions, const QString &text, int length,
                    const QString &replacement)
@@ -46,13 +59,13 @@ QString replacedAt(const Positions &positions, const QString &text, int length,
     const qint64 growth = qint64(replacement.size() - length) * positions.size();
     QString result = unwrittenText(text.size() + growth);
     QChar *end = result.data();
-    const QChar *rest = text.cbegin();
+    int rest = 0;
     for (const int position : positions) {
-        end = std::copy(rest, text.cbegin() + position, end);
-        end = std::copy(replacement.cbegin(), replacement.cend(), end);
-        rest = text.cbegin() + position + length;
+        append(end, text.constData() + rest, position - rest);
+        append(end, replacement.constData(), replacement.size());
+        rest = position + length;
     }
-    std::copy(rest, text.cend(), end);
+    append(end, text.constData() + rest, text.size() - rest);
     return result;
 }
 

@@ -1,6 +1,8 @@
 #include "operations/common/TextSearch.h"
 
 #include <QStringView>
+#include <QtAlgorithms>
+#include <QtEndian>
 
 #include <algorithm>
 #include <array>
@@ -40,19 +42,6 @@ private:
     std::array<int, 256> m_counts; ///< left as it is, when nothing is counted
 };
 
-/// The first position of `unit` at or after `from`, the size of the text without one.
-int indexOfUnit(const QString &text, QChar unit, int from)
-{
-    // A vectorised search that ends after a few units costs more than looking at them one by one.
-    constexpr int nearby = 8;
-    const int nearEnd = std::min(from + nearby, text.size());
-    const auto near = std::find(text.cbegin() + from, text.cbegin() + nearEnd, unit);
-    if (near != text.cbegin() + nearEnd)
-        return static_cast<int>(near - text.cbegin());
-    const int position = text.indexOf(unit, nearEnd);
-    return position < 0 ? text.size() : position;
-}
-
 /// 1 if `unit` has one of the first `count` forms, else 0: in 16 bits and without a branch, so that
 /// the processor does it for many units at once.
 template <int count, typename Forms>
@@ -62,6 +51,22 @@ ushort hasForm(ushort unit, const Forms &forms)
     for (std::size_t i = 0; i < count; ++i)
         found = static_cast<ushort>(found | (unit == forms[i]));
     return found;
+}
+
+/// The places that are looked at together, as many as there are bits to note them.
+constexpr int blockSize = 64;
+
+using Flags = std::array<uchar, blockSize>;
+
+/// A bit for each flag, which is 0 or 1.
+quint64 packed(const Flags &flags)
+{
+    constexpr quint64 gather =
+        0x0102040810204080; // moves the i-th byte's bit to the i-th of the top
+    quint64 bits = 0;
+    for (int i = 0; i < 8; ++i)
+        bits |= qFromLittleEndian<quint64>(flags.data() + 8 * i) * gather >> 56 << (8 * i);
+    return bits;
 }
 
 /// The number of units from the start of `searched` that stand at `position` of `text`.
@@ -167,40 +172,57 @@ FoldedText::Variants TextSearch::variantsAt(int index) const
 
 /// The first position from `from` to `last` at which both features stand, beyond `last` without
 /// one.
-int TextSearch::nextPlace(int from, int last) const
+int TextSearch::nextPlace(int from, int last)
 {
-    if (m_searched.size() == 1 && m_forms == 1)
-        return indexOfUnit(m_text, m_searched.at(0), from);
-    if (m_forms == 1)
-        return nextPlaceOf<1>(from, last);
-    return m_forms == 2 ? nextPlaceOf<2>(from, last) : nextPlaceOf<mostForms>(from, last);
+    if (from < m_blockEnd) {
+        m_places &= ~quint64(0) << (from - m_block);
+    } else {
+        m_places = 0;
+        m_blockEnd = from;
+    }
+    if (m_places == 0) {
+        if (m_forms == 1)
+            findBlock<1>(last);
+        else if (m_forms == 2)
+            findBlock<2>(last);
+        else
+            findBlock<mostForms>(last);
+    }
+    return m_places == 0 ? last + 1 : m_block + static_cast<int>(qCountTrailingZeroBits(m_places));
 }
 
+/// Moves on from the end of the block to the first one with a place at which both features stand.
 template <int forms>
-int TextSearch::nextPlaceOf(int from, int last) const
+void TextSearch::findBlock(int last)
 {
-    constexpr int block = 64;
-    const ushort *first = m_text.utf16() + m_first.index;
-    const ushort *second = m_text.utf16() + m_second.index;
-    const auto firstForms = m_first.forms;
-    const auto secondForms = m_second.forms;
-    int position = from;
-    for (; position <= last - block; position += block) {
+    // Copies, so that the compiler sees that nothing changes and compares many units at once.
+    const auto isPlace = [first = m_text.utf16() + m_first.index, firstForms = m_first.forms,
+                          second = m_text.utf16() + m_second.index,
+                          secondForms = m_second.forms](int position) -> ushort {
+        return hasForm<forms>(first[position], firstForms) &
+               hasForm<forms>(second[position], secondForms);
+    };
+    int begin = m_blockEnd;
+    for (; begin <= last - blockSize + 1; begin += blockSize) {
         ushort found = 0;
-        for (int i = position; i < position + block; ++i)
-            found = static_cast<ushort>(found | (hasForm<forms>(first[i], firstForms) &
-                                                 hasForm<forms>(second[i], secondForms)));
+        for (int i = begin; i < begin + blockSize; ++i)
+            found = static_cast<ushort>(found | isPlace(i));
         if (found != 0)
             break;
     }
-    while (position <= last && (hasForm<forms>(first[position], firstForms) &
-                                hasForm<forms>(second[position], secondForms)) == 0)
-        ++position;
-    return position;
+    Flags flags{};
+    m_block = begin;
+    m_blockEnd = std::min(begin + blockSize, last + 1);
+    for (int i = begin, end = m_blockEnd; i < end; ++i)
+        flags[static_cast<std::size_t>(i - begin)] = static_cast<uchar>(isPlace(i));
+    m_places = packed(flags);
 }
 
 int TextSearch::matchedUnits(int position) const
 {
+    // The two units that were looked for are all there are.
+    if (m_searched.size() <= 2 && !m_foldCase)
+        return m_searched.size();
     return m_foldCase ? matchedFrom(FoldedText(m_text), FoldedText(m_searched), position)
                       : matchedFrom(QStringView(m_text), QStringView(m_searched), position);
 }

@@ -48,9 +48,9 @@ private:
     Feature featureAt(int index) const;
     FoldedText::Variants variantsAt(int index) const;
 
-    int nextPlace(int from, int last) const;
+    int nextPlace(int from, int last);
     template <int forms>
-    int nextPlaceOf(int from, int last) const;
+    void findBlock(int last);
 
     int matchedUnits(int position) const;
     void charge(int position, int comparedUnits);
@@ -62,6 +62,9 @@ private:
     Feature m_first;
     Feature m_second;
     int m_forms = 1;      ///< the most forms that one of the two has
+    int m_block = 0;      ///< where the block of up to 64 places begins that is looked at
+    int m_blockEnd = 0;   ///< where it ends
+    quint64 m_places = 0; ///< a bit for each of its places: whether both features stand there
     qint64 m_wasted = 0;  ///< the effort spent on comparing for nothing, in units looked at
     bool m_skips = false; ///< whether the search that skips has taken over
     std::optional<SkipSearch<QStringView>> m_exactSearch;

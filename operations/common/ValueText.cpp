@@ -1,6 +1,6 @@
 #include "operations/common/ValueText.h"
 
-#include <QStack>
+#include <QVarLengthArray>
 #include <QVariantList>
 
 #include <limits>
@@ -20,14 +20,23 @@ bool isText(const QVariant &value)
     return value.userType() == QMetaType::QString;
 }
 
-/// Makes room at once for the texts among the elements: they are what lists are mostly made of, and
-/// what makes them large.
+/// The text that `value` holds, where it is; valid for as long as the value.
+const QString &textIn(const QVariant &value)
+{
+    return *static_cast<const QString *>(value.constData());
+}
+
+/// Makes room at once for the texts among the elements, if these are few: large texts are not to be
+/// moved while the text grows.
 void reserveForTexts(QString &text, const QVariantList &elements, const QString &separator)
 {
+    constexpr int few = 1024;
+    if (elements.size() > few)
+        return;
     qint64 size = qint64(separator.size()) * elements.size();
     for (const QVariant &element : elements) {
         if (isText(element))
-            size += static_cast<const QString *>(element.constData())->size();
+            size += textIn(element).size();
     }
     if (size > std::numeric_limits<int>::max())
         throw std::bad_alloc();
@@ -38,19 +47,21 @@ void reserveForTexts(QString &text, const QVariantList &elements, const QString 
 /// Appends a list that may hold lists. A loop, since a list can be nested deeper than calls can.
 void appendNested(QString &text, const QVariantList &list)
 {
-    QStack<OpenList> open;
-    open.push({list});
+    QVarLengthArray<OpenList, 4> open;
+    open.append({list, 0});
     while (!open.isEmpty()) {
-        OpenList &current = open.top();
+        OpenList &current = open.last();
         if (current.next == current.elements.size()) {
-            open.pop();
+            open.removeLast();
             continue;
         }
         if (current.next > 0)
             text += QLatin1String(", ");
         const QVariant &element = current.elements.at(current.next++);
-        if (isListLike(element))
-            open.push({element.value<QVariantList>()});
+        if (isText(element))
+            text += textIn(element);
+        else if (isListLike(element))
+            open.append({element.value<QVariantList>(), 0});
         else
             text += element.toString();
     }
@@ -60,7 +71,15 @@ void appendNested(QString &text, const QVariantList &list)
 
 bool isListLike(const QVariant &value)
 {
-    return !isText(value) && value.canConvert(QMetaType::QVariantList);
+    switch (value.userType()) {
+    case QMetaType::QString:
+    case QMetaType::Double:
+    case QMetaType::Int:
+    case QMetaType::Bool:
+        return false; // the usual values, without asking for a conversion
+    default:
+        return value.canConvert(QMetaType::QVariantList);
+    }
 }
 
 QString variantToText(const QVariant &value)
@@ -78,7 +97,9 @@ QString listToText(const QVariantList &elements, const QString &separator)
         if (i > 0)
             text += separator;
         const QVariant &element = elements.at(i);
-        if (isListLike(element))
+        if (isText(element))
+            text += textIn(element);
+        else if (isListLike(element))
             appendNested(text, element.value<QVariantList>());
         else
             text += element.toString();
