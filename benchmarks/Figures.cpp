@@ -1,11 +1,9 @@
 #include "benchmarks/Figures.h"
 
-#include <algorithm>
+#include <cmath>
 
-double Growth::largestRatio() const
+double Growth::ratioPerDoubling() const
 {
-    double largest = 0.0;
-    for (int i = 1; i < points.size(); ++i)
-        largest = std::max(largest, points.at(i).time / points.at(i - 1).time);
-    return largest;
+    const double doublings = points.size() - 1;
+    return std::pow(points.last().time / points.first().time, 1.0 / doublings);
 }

@@ -40,8 +40,8 @@ struct Growth
     QVector<Point> points;
     bool isStep; ///< whether it is the work of a step, or the plain copy beside all of them
 
-    /// The largest factor from one point to the next.
-    double largestRatio() const;
+    /// The factor from one point to the next, on average over all of them. There are at least two.
+    double ratioPerDoubling() const;
 };
 
 /// All that was measured.

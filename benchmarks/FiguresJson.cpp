@@ -32,7 +32,7 @@ QJsonObject growthJson(const Growth &growth)
     }
     QJsonObject json = subjectJson(growth.subject);
     json.insert(QStringLiteral("points"), points);
-    json.insert(QStringLiteral("largestRatio"), growth.largestRatio());
+    json.insert(QStringLiteral("ratioPerDoubling"), growth.ratioPerDoubling());
     return json;
 }
 

@@ -93,7 +93,7 @@ QString growthHead()
 
 QString growthLine(const Growth &growth)
 {
-    QStringList figures{ratioText(growth.largestRatio())};
+    QStringList figures{ratioText(growth.ratioPerDoubling())};
     for (const Growth::Point &point : growth.points)
         figures.append(timeText(point.time));
     return row(growth.subject, figures);

@@ -105,6 +105,14 @@ QVector<BenchmarkCase> denseCases(const QString &type)
     return {
         BenchmarkCase(type, QStringLiteral("dense, longer"), longer).beatingQt(),
         BenchmarkCase(type, QStringLiteral("dense, shorter"), shorter).beatingQt(),
+        BenchmarkCase(type, QStringLiteral("dense, longer"), longer)
+            .onlyAt(hugeSize)
+            .asciiOnly()
+            .beatingQt(),
+        BenchmarkCase(type, QStringLiteral("dense, shorter"), shorter)
+            .onlyAt(hugeSize)
+            .asciiOnly()
+            .beatingQt(),
     };
 }
 
