@@ -12,7 +12,7 @@
 namespace {
 
 /// Up to here Qt's own search has no time to lose. It also has a quirk here that has to stay: it
-/// can take the second half of a surrogate pair for an unpaired one, ignoring case.
+/// can take the second half of a surrogate pair for an unpaired one when case does not count.
 constexpr int shortText = 500;
 
 /// How often the units of a text occur in a sample of it, those with the same low byte counted
@@ -45,11 +45,11 @@ private:
 /// 1 if `unit` has one of the first `count` forms, else 0: in 16 bits and without a branch, so that
 /// the processor does it for many units at once.
 template <int count, typename Forms>
-ushort hasForm(ushort unit, const Forms &forms)
+ushort hasForm(QChar unit, const Forms &forms)
 {
     ushort found = 0;
     for (std::size_t i = 0; i < count; ++i)
-        found = static_cast<ushort>(found | (unit == forms[i]));
+        found = static_cast<ushort>(found | (unit.unicode() == forms[i]));
     return found;
 }
 
@@ -61,8 +61,8 @@ using Flags = std::array<uchar, blockSize>;
 /// A bit for each flag, which is 0 or 1.
 quint64 packed(const Flags &flags)
 {
-    constexpr quint64 gather =
-        0x0102040810204080; // moves the i-th byte's bit to the i-th of the top
+    // Times this, the bit of the i-th byte comes to be the i-th bit of the highest byte.
+    constexpr quint64 gather = 0x0102040810204080;
     quint64 bits = 0;
     for (int i = 0; i < 8; ++i)
         bits |= qFromLittleEndian<quint64>(flags.data() + 8 * i) * gather >> 56 << (8 * i);
@@ -147,6 +147,7 @@ void TextSearch::chooseFeatures()
     m_first = featureAt(first);
     m_second = featureAt(second);
     m_forms = std::max(variantsAt(first).size(), variantsAt(second).size());
+    m_skips = m_forms > mostForms; // no unit has as many forms today
 }
 
 TextSearch::Feature TextSearch::featureAt(int index) const
@@ -155,7 +156,7 @@ TextSearch::Feature TextSearch::featureAt(int index) const
     Feature feature;
     feature.index = index;
     feature.forms.fill(variants.first());
-    std::copy(variants.cbegin(), variants.cend(), feature.forms.begin());
+    std::copy_n(variants.cbegin(), std::min(variants.size(), mostForms), feature.forms.begin());
     return feature;
 }
 
@@ -196,8 +197,8 @@ template <int forms>
 void TextSearch::findBlock(int last)
 {
     // Copies, so that the compiler sees that nothing changes and compares many units at once.
-    const auto isPlace = [first = m_text.utf16() + m_first.index, firstForms = m_first.forms,
-                          second = m_text.utf16() + m_second.index,
+    const auto isPlace = [first = m_text.constData() + m_first.index, firstForms = m_first.forms,
+                          second = m_text.constData() + m_second.index,
                           secondForms = m_second.forms](int position) -> ushort {
         return hasForm<forms>(first[position], firstForms) &
                hasForm<forms>(second[position], secondForms);

@@ -24,7 +24,7 @@ int indexOfText(const QString &text, const QString &searched, int from,
 ///
 /// Looks for two units of the searched text, the rarest ones, at many places at once, and compares
 /// where both stand. Where they stand together too often for this, it goes on with a search that
-/// skips. A single unit is left to Qt, whose search for one uses vector instructions.
+/// skips.
 class TextSearch
 {
 public:

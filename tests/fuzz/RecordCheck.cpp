@@ -1,24 +1,13 @@
 #include "tests/fuzz/RecordCheck.h"
 
-#include "plugin/TextOperPlugin.h"
 #include "tests/support/Records.h"
-
-#include "Operation.h"
+#include "tests/support/Steps.h"
 
 #include <QMetaProperty>
 
 #include <memory>
-#include <vector>
 
 namespace {
-
-std::vector<std::unique_ptr<Operation>> makePrototypes()
-{
-    std::vector<std::unique_ptr<Operation>> prototypes;
-    for (Operation *prototype : TextOperPlugin().createPrototypes())
-        prototypes.emplace_back(prototype);
-    return prototypes;
-}
 
 RecordForm takeForm(ByteSource &source)
 {
@@ -52,7 +41,7 @@ bool haveEqualSettings(const Operation &left, const Operation &right)
 
 QString checkRecord(ByteSource source)
 {
-    static const auto prototypes = makePrototypes();
+    static const auto prototypes = makeAllSteps();
     const std::size_t index = static_cast<std::size_t>(source.takeByte()) % prototypes.size();
     const RecordForm form = takeForm(source);
     const QByteArray bytes = takeRest(source);

@@ -1,33 +1,20 @@
 #include "tests/fuzz/StepCheck.h"
 
-#include "plugin/TextOperPlugin.h"
 #include "tests/fuzz/LiteralStep.h"
 #include "tests/support/ListOf.h"
+#include "tests/support/Steps.h"
 
-#include "Operation.h"
 #include "VariableScope.h"
 
 #include <QMetaProperty>
 #include <QtDebug>
 
-#include <array>
 #include <memory>
 
 namespace {
 
 /// Long enough for every way of searching, short enough for the literal definitions.
 constexpr int mostUnits = 900;
-
-using Prototypes = std::array<std::unique_ptr<Operation>, 13>;
-
-Prototypes makePrototypes()
-{
-    Prototypes prototypes;
-    auto next = prototypes.begin();
-    for (Operation *prototype : TextOperPlugin().createPrototypes())
-        (next++)->reset(prototype);
-    return prototypes;
-}
 
 VariableScope makeScope(ByteSource &source)
 {
@@ -133,11 +120,11 @@ QVariant takeSetting(ByteSource &source, const QMetaProperty &property)
     return name == "decimals" && !hasAffordableDecimals(operand) ? QString("3") : operand;
 }
 
-std::unique_ptr<Operation> makeStep(ByteSource &source)
+std::unique_ptr<Operation> takeStep(ByteSource &source)
 {
-    static const Prototypes prototypes = makePrototypes();
-    const Operation &prototype = *prototypes[static_cast<std::size_t>(source.takeBelow(13))];
-    std::unique_ptr<Operation> step(prototype.clone(nullptr));
+    static const auto prototypes = makeAllSteps();
+    const std::size_t index = static_cast<std::size_t>(source.takeByte()) % prototypes.size();
+    std::unique_ptr<Operation> step(prototypes[index]->clone(nullptr));
     const QMetaObject &type = *step->metaObject();
     for (int i = type.propertyOffset(); i < type.propertyCount(); ++i)
         type.property(i).write(step.get(), takeSetting(source, type.property(i)));
@@ -184,7 +171,7 @@ QStringList warningsOf(const Operation &step)
 
 QString checkStep(ByteSource source)
 {
-    const std::unique_ptr<Operation> step = makeStep(source);
+    const std::unique_ptr<Operation> step = takeStep(source);
     VariableScope actual = makeScope(source);
     VariableScope expected = actual;
     step->setVariableScope(&actual);

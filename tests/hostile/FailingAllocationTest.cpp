@@ -1,8 +1,7 @@
 #include "tests/hostile/FailingAllocation.h"
-#include "plugin/TextOperPlugin.h"
 #include "tests/support/ListOf.h"
+#include "tests/support/Steps.h"
 
-#include "Operation.h"
 #include "VariableScope.h"
 
 #include <QtTest>
@@ -39,7 +38,6 @@ private Q_SLOTS:
 
 private:
     static void addSteps();
-    static std::unique_ptr<Operation> makeStep();
     static VariableScope makeScope();
     /// Runs the step with a failing allocation; false when it has come to its end without one.
     static bool runFailing(int count, bool forGood, VariableScope &scope);
@@ -86,22 +84,6 @@ void FailingAllocationTest::addSteps()
     row("no result variable", "text.reverse", with({{"resultVar", ""}}));
 }
 
-std::unique_ptr<Operation> FailingAllocationTest::makeStep()
-{
-    QFETCH(QString, typeId);
-    QFETCH(QVariantMap, settings);
-    std::unique_ptr<Operation> step;
-    for (Operation *prototype : TextOperPlugin().createPrototypes()) {
-        const std::unique_ptr<Operation> owner(prototype);
-        if (prototype->typeId() == typeId)
-            step.reset(prototype->clone(nullptr));
-    }
-    step->setProperty("resultVar", "r");
-    for (auto setting = settings.cbegin(); setting != settings.cend(); ++setting)
-        step->setProperty(setting.key().toUtf8(), setting.value());
-    return step;
-}
-
 VariableScope FailingAllocationTest::makeScope()
 {
     VariableScope scope;
@@ -117,7 +99,9 @@ VariableScope FailingAllocationTest::makeScope()
 
 bool FailingAllocationTest::runFailing(int count, bool forGood, VariableScope &scope)
 {
-    const std::unique_ptr<Operation> step = makeStep();
+    QFETCH(QString, typeId);
+    QFETCH(QVariantMap, settings);
+    const std::unique_ptr<Operation> step = makeStep(typeId, settings);
     step->setVariableScope(&scope);
     warningCount = 0;
     const QtMessageHandler previous = qInstallMessageHandler(collectWarning);

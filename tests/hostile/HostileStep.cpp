@@ -1,9 +1,8 @@
 #include "tests/hostile/HostileStep.h"
 
-#include "plugin/TextOperPlugin.h"
 #include "tests/support/ListOf.h"
+#include "tests/support/Steps.h"
 
-#include "Operation.h"
 #include "VariableScope.h"
 
 #include <QFile>
@@ -266,20 +265,6 @@ void collectWarning(QtMsgType, const QMessageLogContext &, const QString &line)
     warnings.append(line.size() < 200 ? line : line.left(200) + "...");
 }
 
-std::unique_ptr<Operation> makeStep(const HostileStep &hostile)
-{
-    std::unique_ptr<Operation> step;
-    for (Operation *prototype : TextOperPlugin().createPrototypes()) {
-        const std::unique_ptr<Operation> owner(prototype);
-        if (prototype->typeId() == hostile.typeId)
-            step.reset(prototype->clone(nullptr));
-    }
-    step->setProperty("resultVar", "r");
-    for (auto setting = hostile.settings.cbegin(); setting != hostile.settings.cend(); ++setting)
-        step->setProperty(setting.key().toUtf8(), setting.value());
-    return step;
-}
-
 /// The address space this process has taken, in bytes.
 rlim_t addressSpace()
 {
@@ -342,7 +327,7 @@ QString runHostileStep(const QByteArray &name)
                                       [&](const HostileStep &step) { return step.name == name; });
     if (hostile == all.cend())
         return "is not known";
-    const std::unique_ptr<Operation> step = makeStep(*hostile);
+    const std::unique_ptr<Operation> step = makeStep(hostile->typeId, hostile->settings);
     VariableScope scope;
     scope.declare("r", VarType::String, QString("before"));
     scope.declare("l", VarType::List);

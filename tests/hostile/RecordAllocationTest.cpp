@@ -1,13 +1,9 @@
-#include "plugin/TextOperPlugin.h"
 #include "tests/hostile/FailingAllocation.h"
 #include "tests/support/Records.h"
-
-#include "Operation.h"
+#include "tests/support/Steps.h"
 
 #include <QMetaProperty>
 #include <QtTest>
-
-#include <memory>
 
 Q_DECLARE_METATYPE(RecordForm)
 
@@ -41,8 +37,7 @@ void RecordAllocationTest::claimsOfLength()
     QFETCH(quint32, length);
     QFETCH(RecordForm, form);
     constexpr std::size_t blockOfQt = 4 << 20;
-    for (Operation *prototype : TextOperPlugin().createPrototypes()) {
-        const std::unique_ptr<Operation> operation(prototype);
+    for (const auto &operation : makeAllSteps()) {
         QByteArray record(4, '\0');
         QDataStream stream(&record, QIODevice::Append);
         stream.setByteOrder(form.byteOrder);
@@ -52,7 +47,7 @@ void RecordAllocationTest::claimsOfLength()
         QVERIFY(FailingAllocation::largest() <= blockOfQt);
         QVERIFY(status != QDataStream::Ok);
         const QMetaObject &type = *operation->metaObject();
-        QCOMPARE(type.property(type.propertyOffset()).read(prototype), QVariant(QString()));
+        QCOMPARE(type.property(type.propertyOffset()).read(operation.get()), QVariant(QString()));
     }
 }
 

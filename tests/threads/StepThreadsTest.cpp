@@ -1,8 +1,7 @@
-#include "plugin/TextOperPlugin.h"
 #include "tests/support/ListOf.h"
 #include "tests/support/QuietTest.h"
+#include "tests/support/Steps.h"
 
-#include "Operation.h"
 #include "VariableScope.h"
 
 #include <QtTest>
@@ -35,18 +34,17 @@ StepThreadsTest::Steps StepThreadsTest::makeSteps()
         {"cutMode", 1},         {"startMarker", "OVER"},  {"mode", 2},         {"value", "$n"},
         {"decimals", "3"},      {"listVar", "words"},     {"splitMode", 1},    {"separator", "dog"},
         {"searchText", "LAZY"}, {"ignoreCase", true},     {"oldText", "THE"},  {"newText", "a"}};
-    Steps steps;
-    for (Operation *prototype : TextOperPlugin().createPrototypes()) {
-        steps.emplace_back(prototype);
-        for (auto setting = settings.cbegin(); setting != settings.cend(); ++setting) {
-            if (prototype->metaObject()->indexOfProperty(setting.key().toUtf8()) >= 0)
-                prototype->setProperty(setting.key().toUtf8(), setting.value());
-        }
-        const bool givesList = prototype->typeId() == "text.split";
-        const bool givesNumber = prototype->typeId() == "text.find";
-        prototype->setProperty("resultVar", givesList ? "l" : givesNumber ? "i" : "r");
-        if (prototype->typeId() == "text.toNumber")
-            prototype->setProperty("sourceText", "$n");
+    Steps steps = makeAllSteps();
+    for (const auto &step : steps) {
+        const QString type = step->typeId();
+        applySettings(*step, settings);
+        step->setProperty("resultVar", "r");
+        if (type == "text.split")
+            step->setProperty("resultVar", "l");
+        if (type == "text.find")
+            step->setProperty("resultVar", "i");
+        if (type == "text.toNumber")
+            step->setProperty("sourceText", "$n");
     }
     return steps;
 }
