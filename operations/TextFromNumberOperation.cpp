@@ -27,8 +27,8 @@ QString formatted(double number, int decimals, bool useGrouping)
 {
     const int digits = std::min(decimals, mostDecimals);
     // The default locale is the host's choice; only the grouping form follows it.
-    const QString text = useGrouping ? QLocale().toString(number, 'f', digits)
-                                     : QString::number(number, 'f', digits);
+    QString text = useGrouping ? QLocale().toString(number, 'f', digits)
+                               : QString::number(number, 'f', digits);
     if (decimals == digits || !qIsFinite(number))
         return text;
     const QChar zero = useGrouping ? QLocale().zeroDigit() : QLatin1Char('0');

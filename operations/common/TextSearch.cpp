@@ -64,8 +64,8 @@ quint64 packed(const Flags &flags)
     // Times this, the bit of the i-th byte comes to be the i-th bit of the highest byte.
     constexpr quint64 gather = 0x0102040810204080;
     quint64 bits = 0;
-    for (int i = 0; i < 8; ++i)
-        bits |= qFromLittleEndian<quint64>(flags.data() + 8 * i) * gather >> 56 << (8 * i);
+    for (unsigned i = 0; i < blockSize; i += 8)
+        bits |= qFromLittleEndian<quint64>(flags.data() + i) * gather >> 56 << i;
     return bits;
 }
 
