@@ -4,11 +4,8 @@
 #include "operations/common/Operand.h"
 #include "operations/common/Presentation.h"
 #include "operations/common/ResultStore.h"
+#include "operations/common/TextReplacement.h"
 #include "operations/common/TextSearch.h"
-
-#include <QVarLengthArray>
-
-#include <algorithm>
 
 namespace {
 
@@ -23,58 +20,6 @@ QString replacedFirst(const QString &text, const QString &search, const QString 
         return text;
     const QStringView source(text);
     return concatenated({source.left(position), replacement, source.mid(position + search.size())});
-}
-
-using Positions = QVarLengthArray<int, 256>;
-
-/// Where the search text stands, from left to right and without overlaps. An empty one stands
-/// before every unit and at the end.
-Positions occurrences(const QString &text, const QString &search, Qt::CaseSensitivity sensitivity)
-{
-    Positions positions;
-    TextSearch occurrence(text, search, sensitivity);
-    const int step = std::max(1, search.size());
-    for (int i = occurrence.next(0); i >= 0; i = occurrence.next(i + step))
-        positions.append(i);
-    return positions;
-}
-
-/// Appends a piece at `end`, which moves on. Most pieces are short, and then a call costs more than
-/// the copying.
-void append(QChar *&end, const QChar *begin, int size)
-{
-    constexpr int shortPiece = 8;
-    if (size > shortPiece) {
-        end = std::copy_n(begin, size, end);
-        return;
-    }
-    for (int i = 0; i < size; ++i)
-        *end++ = begin[i];
-}
-
-/// With `replacement` in place of the `length` units at each of the positions.
-QString replacedAt(const Positions &positions, const QString &text, int length,
-                   const QString &replacement)
-{
-    const qint64 growth = qint64(replacement.size() - length) * positions.size();
-    QString result = unwrittenText(text.size() + growth);
-    QChar *end = result.data();
-    int rest = 0;
-    for (const int position : positions) {
-        append(end, text.constData() + rest, position - rest);
-        append(end, replacement.constData(), replacement.size());
-        rest = position + length;
-    }
-    append(end, text.constData() + rest, text.size() - rest);
-    return result;
-}
-
-/// All occurrences in one pass; what is put in is not searched again.
-QString replacedAll(const QString &text, const QString &search, const QString &replacement,
-                    Qt::CaseSensitivity sensitivity)
-{
-    const Positions positions = occurrences(text, search, sensitivity);
-    return positions.isEmpty() ? text : replacedAt(positions, text, search.size(), replacement);
 }
 
 } // namespace
@@ -122,7 +67,7 @@ void TextReplaceOperation::run() const
     const QString text = resolveTextOperand(m_sourceText, scope);
     const QString search = resolveTextOperand(m_oldText, scope);
     const QString replacement = resolveTextOperand(m_newText, scope);
-    const auto replaced = m_replaceScope == firstOnly ? replacedFirst : replacedAll;
+    const auto replaced = m_replaceScope == firstOnly ? replacedFirst : replacedText;
     storeStringResult(scope, m_resultVar,
                       replaced(text, search, replacement, caseSensitivity(m_ignoreCase)));
 }

@@ -14,8 +14,13 @@ QString unwrittenText(qint64 size)
 QString concatenated(std::initializer_list<QStringView> pieces)
 {
     qint64 size = 0;
-    for (const QStringView piece : pieces)
+    bool isNull = true;
+    for (const QStringView piece : pieces) {
         size += piece.size();
+        isNull = isNull && piece.isNull();
+    }
+    if (isNull)
+        return {};
     QString text = unwrittenText(size);
     QChar *end = text.data();
     for (const QStringView piece : pieces)

@@ -9,5 +9,6 @@
 /// memory for it, or when no text can be as long.
 QString unwrittenText(qint64 size);
 
-/// The pieces one after the other, in one allocation. Throws as `unwrittenText` does.
+/// The pieces one after the other, in one allocation; a null text if all of them are null. Throws
+/// as `unwrittenText` does.
 QString concatenated(std::initializer_list<QStringView> pieces);

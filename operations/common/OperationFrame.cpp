@@ -13,7 +13,7 @@ void OperationFrame::warnTooLarge(const QMetaObject &operationClass) noexcept
     try {
         const QByteArray line = warningTag(operationClass) + " 结果过大，已跳过";
         warn(line.constData());
-    } catch (const std::bad_alloc &) {
+    } catch (...) {
         // Not even the memory for a line is left; the host goes on all the same.
     }
 }

@@ -5,8 +5,8 @@
 /// A variable name as it is shown to a user: with a leading "$" unless it is empty or has one.
 QString displayVariableName(const QString &name);
 
-/// Fills the lowest place marker of `pattern` as `QString::arg` does; where the result could be too
-/// large for a text, which no one would read, the pattern stays as it is.
+/// Fills the lowest place marker of `pattern` as `QString::arg` does; where the result does not fit
+/// into memory, and no one would read it, the pattern stays as it is.
 QString fillMarker(const QString &pattern, const QString &value);
 QString fillMarker(const QString &pattern, int value);
 

@@ -53,6 +53,16 @@ ushort hasForm(QChar unit, const Forms &forms)
     return found;
 }
 
+/// Whether Qt can pass over a text that is there, when case does not count, and does so in its own
+/// ways: it skips by the last 255 units of the searched text and, where these begin with the second
+/// half of a surrogate pair, knows nothing of the first.
+bool isMissedByQt(const QString &searched)
+{
+    constexpr int unitsSkippedBy = 255;
+    const int begin = searched.size() - unitsSkippedBy;
+    return begin > 0 && FoldedText(searched).isSecondHalf(begin);
+}
+
 /// The places that are looked at together, as many as there are bits to note them.
 constexpr int blockSize = 64;
 
@@ -98,7 +108,11 @@ TextSearch::TextSearch(const QString &text, const QString &searched,
     , m_searched(searched)
     , m_foldCase(sensitivity == Qt::CaseInsensitive)
 {
-    if (!m_searched.isEmpty() && m_searched.size() <= m_text.size())
+    if (m_searched.isEmpty() || m_searched.size() > m_text.size())
+        return;
+    if (m_foldCase && isMissedByQt(m_searched))
+        m_matcher.emplace(m_searched, sensitivity);
+    else
         chooseFeatures();
 }
 
@@ -107,6 +121,8 @@ int TextSearch::next(int from)
     const int last = m_text.size() - m_searched.size();
     if (m_searched.isEmpty())
         return from <= last ? from : -1;
+    if (m_matcher)
+        return m_matcher->indexIn(m_text, from);
     while (from <= last && !m_skips) {
         const int position = nextPlace(from, last);
         if (position > last)
@@ -175,11 +191,11 @@ FoldedText::Variants TextSearch::variantsAt(int index) const
 /// one.
 int TextSearch::nextPlace(int from, int last)
 {
-    if (from < m_blockEnd) {
-        m_places &= ~quint64(0) << (from - m_block);
-    } else {
+    if (from >= m_blockEnd) {
         m_places = 0;
         m_blockEnd = from;
+    } else if (from > m_block) {
+        m_places &= ~quint64(0) << (from - m_block);
     }
     if (m_places == 0) {
         if (m_forms == 1)

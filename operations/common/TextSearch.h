@@ -4,6 +4,7 @@
 #include "operations/common/SkipSearch.h"
 
 #include <QString>
+#include <QStringMatcher>
 
 #include <array>
 #include <optional>
@@ -20,7 +21,7 @@ int indexOfText(const QString &text, const QString &searched, int from,
                 Qt::CaseSensitivity sensitivity);
 
 /// Finds the occurrences of a text in another, one after the other: those that `QStringMatcher`
-/// finds, in time linear in the two texts whatever they hold.
+/// finds, in time linear in the two texts if the caller goes on behind each of them.
 ///
 /// Looks for two units of the searched text, the rarest ones, at many places at once, and compares
 /// where both stand. Where they stand together too often for this, it goes on with a search that
@@ -67,6 +68,7 @@ private:
     quint64 m_places = 0; ///< a bit for each of its places: whether both features stand there
     qint64 m_wasted = 0;  ///< the effort spent on comparing for nothing, in units looked at
     bool m_skips = false; ///< whether the search that skips has taken over
+    std::optional<QStringMatcher> m_matcher; ///< set where Qt's search is the only one like it
     std::optional<SkipSearch<QStringView>> m_exactSearch;
     std::optional<SkipSearch<FoldedText>> m_foldedSearch;
 };

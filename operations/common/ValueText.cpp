@@ -31,9 +31,9 @@ const QString &textIn(const QVariant &value)
 void reserveForTexts(QString &text, const QVariantList &elements, const QString &separator)
 {
     constexpr int few = 1024;
-    if (elements.size() > few)
+    if (elements.isEmpty() || elements.size() > few)
         return;
-    qint64 size = qint64(separator.size()) * elements.size();
+    qint64 size = qint64(separator.size()) * (elements.size() - 1);
     for (const QVariant &element : elements) {
         if (isText(element))
             size += textIn(element).size();

@@ -23,6 +23,8 @@ void ConcatenationTest::putsTogether()
     QCOMPARE(concatenated({}), QString());
     QCOMPARE(concatenated({QStringView()}), QString());
     QCOMPARE(concatenated({u"a", QStringView(), u"bc"}), QString("abc"));
+    QVERIFY(concatenated({QStringView(), QString()}).isNull());
+    QVERIFY(!concatenated({QStringView(), u""}).isNull());
     const QString text = "甲乙丙";
     QCOMPARE(concatenated({QStringView(text).mid(1), text}), QString("乙丙甲乙丙"));
 }

@@ -14,6 +14,7 @@ private Q_SLOTS:
     void fillsInOrder();
     void fillsNumbers();
     void leavesWhatWouldNotFit();
+    void countsTheLowestMarkerOnly();
     void laterValuesFillMarkersInEarlierOnes();
 };
 
@@ -66,7 +67,38 @@ void PresentationTest::leavesWhatWouldNotFit()
     const QString pattern = QString("%2").repeated(70000);
     const QString value(70000, 'x');
     QCOMPARE(fillMarkers("%1", pattern, value), pattern);
+    QCOMPARE(fillMarkers("%1", pattern, 7), QString("7").repeated(70000));
     QCOMPARE(fillMarkers("%1 %2", value, QString("y")), value + " y");
+    // Within an int, but not within a text.
+    const QString fewer = QString("%2").repeated(40000);
+    QCOMPARE(fillMarkers("%1", fewer, QString(40000, 'x')), fewer);
+}
+
+/// Only the lowest marker is filled, so that others cost nothing.
+void PresentationTest::countsTheLowestMarkerOnly()
+{
+    const QString value(70000, 'x');
+    const auto check = [&](const QString &others) {
+        const QString pattern = "%1" + others.repeated(70000);
+        QCOMPARE(fillMarkers(pattern, value), pattern.arg(value));
+    };
+    check("%");
+    check("%% ");
+    check("%L");
+    check("%L9");
+    check("%99");
+    check("%20");
+    check("%x1");
+    // Two digits at most, and any digits.
+    const QString eleven = QString("%111").repeated(3) + "%12";
+    QCOMPARE(fillMarkers(eleven, value), eleven.arg(value));
+    const QString arabic = QString("%٣%4");
+    QCOMPARE(fillMarkers(arabic, value), arabic.arg(value));
+    // The marker that is filled is the lowest one wherever it stands, with an L or without.
+    for (const QString &marker : {QString("%2"), QString("%L2"), QString("%02")}) {
+        const QString pattern = "%3" + marker.repeated(70000);
+        QCOMPARE(fillMarkers(pattern, value), pattern);
+    }
 }
 
 void PresentationTest::laterValuesFillMarkersInEarlierOnes()

@@ -16,6 +16,8 @@ private Q_SLOTS:
     void positions_data();
     void positions();
     void startsAnywhere();
+    void everyOccurrenceWithOverlaps();
+    void skippedOverByQt();
     void nothingBehindTheEnd();
     void changesTheWayOfSearching_data();
     void changesTheWayOfSearching();
@@ -142,6 +144,34 @@ void TextSearchTest::startsAnywhere()
         for (int from = 0; from <= text.size() + 2; ++from)
             QCOMPARE(indexOfText(text, searched, from, Qt::CaseSensitive),
                      text.indexOf(searched, from, Qt::CaseSensitive));
+    }
+}
+
+/// From every start, one behind the other, also from before the last occurrence.
+void TextSearchTest::everyOccurrenceWithOverlaps()
+{
+    for (const QString &searched :
+         {QString("aa"), QString("abaab"), QString("b"), QString("aabaabaab")}) {
+        const QString text = many("aabaab", 80) + many("x", 200) + many("aab", 90);
+        for (const auto sensitivity : {Qt::CaseSensitive, Qt::CaseInsensitive}) {
+            TextSearch search(text, searched, sensitivity);
+            for (int from = 0; from <= text.size(); ++from)
+                QCOMPARE(search.next(from), text.indexOf(searched, from, sensitivity));
+        }
+    }
+}
+
+/// Qt skips by 255 units; where these begin within a surrogate pair it passes over what is there.
+void TextSearchTest::skippedOverByQt()
+{
+    for (const QString &half : {low, lowOfSmall}) {
+        for (const int behind : {253, 254, 255, 300}) {
+            const QString searched = high + half + many("y", behind);
+            compare(many("z", 254) + searched + many("z", 400), searched);
+            compare(many("z", 400) + searched, many("y", 50) + searched);
+            compare(many("z", 200) + many("y", 50) + searched + many("z", 400),
+                    many("y", 50) + searched);
+        }
     }
 }
 

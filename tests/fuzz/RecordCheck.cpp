@@ -5,6 +5,7 @@
 
 #include <QMetaProperty>
 
+#include <algorithm>
 #include <memory>
 
 namespace {
@@ -25,6 +26,16 @@ QByteArray takeRest(ByteSource &source)
     while (!source.isEmpty())
         bytes.append(static_cast<char>(source.takeByte()));
     return bytes;
+}
+
+/// Whether `saved` is how `loaded` began. A flag may be any byte but 0 there.
+bool isBeginning(const QByteArray &saved, const QByteArray &loaded)
+{
+    const auto isSame = [](char written, char read) {
+        return written == read || (written == 1 && read != 0);
+    };
+    return saved.size() <= loaded.size() &&
+           std::equal(saved.cbegin(), saved.cend(), loaded.cbegin(), isSame);
 }
 
 bool haveEqualSettings(const Operation &left, const Operation &right)
@@ -54,8 +65,8 @@ QString checkRecord(ByteSource source)
         return "the saved record cannot be loaded";
     if (!haveEqualSettings(*loaded, *again))
         return "what was saved is not what is loaded";
-    if (isComplete && saved.size() > bytes.size())
-        return "the saved record is longer than the loaded one";
+    if (isComplete && !isBeginning(saved, bytes))
+        return "the saved record is not the loaded one";
     if (!loaded->toString().startsWith(loaded->typeName() + ": "))
         return "the summary does not begin with the type's name";
     loaded->description();

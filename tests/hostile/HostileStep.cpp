@@ -135,6 +135,10 @@ std::vector<HostileStep> replaceSteps()
          texts([] { return QString("a,").repeated(12800000); }, run(',', 1),
                [] { return QString(", "); }),
          hasSize(3 * 12800000)},
+        {"64 million matches of the same length", type, replaceAll, Ending::Result,
+         texts(run('a', 64 * mebi), run('a', 1), run('b', 1)), hasSize(64 * mebi)},
+        {"nothing by nothing", type, replaceAll, Ending::Result,
+         texts(run('a', 144 * mebi), empty, empty), hasSize(144 * mebi)},
         {"made shorter", type, replaceAll, Ending::Result,
          texts(run('a', 16 * mebi), run('a', 2), run('b', 1)), hasSize(8 * mebi)},
     };
@@ -142,9 +146,11 @@ std::vector<HostileStep> replaceSteps()
 
 std::vector<HostileStep> searchSteps()
 {
-    const auto odd = [] { return repeated('a', 5000) + "b" + repeated('a', 5000); };
-    const auto absent = [] { return "b" + repeated('a', 1000); };
-    const auto endless = run('a', 1000000);
+    // By the square these would take hours.
+    constexpr int half = mebi / 4;
+    const auto odd = [] { return repeated('a', half) + "b" + repeated('a', half); };
+    const auto absent = [] { return repeated('a', 20) + "b" + repeated('a', half); };
+    const auto endless = run('a', 8 * mebi);
     const QVariantMap findAny = with(find, "ignoreCase", true);
     const QVariantMap between{{"sourceText", "$s"}, {"startMarker", "$t"}, {"cutMode", 1}};
     const QVariantMap split{
@@ -163,9 +169,9 @@ std::vector<HostileStep> searchSteps()
         {"split at the odd one", "text.split", split, Ending::Result, texts(endless, odd),
          isOnePiece},
         {"replace the odd one", "text.replace", replaceAll, Ending::Result,
-         texts(endless, odd, run('c', 1)), hasSize(1000000)},
+         texts(endless, odd, run('c', 1)), hasSize(8 * mebi)},
         {"replace the odd one, ignoring case", "text.replace", with(replaceAll, "ignoreCase", true),
-         Ending::Result, texts(endless, odd, run('c', 1)), hasSize(1000000)},
+         Ending::Result, texts(endless, odd, run('c', 1)), hasSize(8 * mebi)},
         {"letters that grow",
          "text.case",
          {{"sourceText", "$s"}},
@@ -250,6 +256,18 @@ std::vector<HostileStep> listSteps()
         {"join one list beyond an int", "text.join", join, Ending::TooLarge, inside(3000, mebi)},
         {"join with a separator beyond an int", "text.join",
          with(join, "separator", repeated('-', mebi)), Ending::TooLarge, shared(3000, 1)},
+        {"join one element, with a separator beyond the memory", "text.join",
+         with(join, "separator", "$large"), Ending::Result,
+         [=](VariableScope &scope) {
+             shared(1, 1)(scope);
+             scope.declare("large", VarType::String, repeated('-', 144 * mebi));
+         },
+         isText("a")},
+        {"join what is no list, with a separator beyond the memory",
+         "text.join",
+         {{"listVar", "r"}, {"separator", "$list"}},
+         Ending::TooLarge,
+         shared(3000, mebi)},
         {"render beyond an int", "text.append", render, Ending::TooLarge, shared(3000, mebi)},
         {"render a list nested ten thousand deep", "text.append", render, Ending::Result,
          list([] { return nested(10000); }), isText(QString("y, ").repeated(9999) + "x!")},

@@ -32,7 +32,6 @@ struct HostileStep
 /// All of them, in an order that does not change.
 std::vector<HostileStep> hostileSteps();
 
-/// Runs the step called `name` in this process, which can have no more than 256 MiB on top of what
-/// the variables take. Returns what is wrong with its
-/// ending, an empty text if nothing.
+/// Runs the step called `name` in this process, which can take no more than 256 MiB on top of the
+/// variables. Returns what is wrong with its ending, an empty text if nothing.
 QString runHostileStep(const QByteArray &name);

@@ -14,7 +14,7 @@ constexpr double wantedShare = 95.0;
 
 double percent(int part, int whole)
 {
-    return whole > 0 ? 100.0 * part / whole : 100.0;
+    return whole > 0 ? 100.0 * part / whole : 0.0;
 }
 
 QJsonObject toObject(const MutantResult &result)
