@@ -141,6 +141,11 @@ void TextFromNumberOperationTest::groupsAsTheDefaultLocaleDoes_data()
                                        << "1234.7"
                                        << "-3"
                                        << "1,235";
+    // Zeros beyond what Qt is asked for are those of the language.
+    QTest::newRow("digits of its own") << "ar_EG"
+                                       << "1234.5"
+                                       << "2000" << QLocale("ar_EG").toString(1234.5, 'f', 2000);
+    QVERIFY(QLocale("ar_EG").zeroDigit() != QLatin1Char('0'));
 }
 
 void TextFromNumberOperationTest::groupsAsTheDefaultLocaleDoes()
