@@ -88,6 +88,7 @@ void PresentationTest::countsTheLowestMarkerOnly()
     check("%L9");
     check("%99");
     check("%20");
+    check("%05");
     check("%x1");
     // Two digits at most, and any digits.
     const QString eleven = QString("%111").repeated(3) + "%12";
@@ -95,7 +96,7 @@ void PresentationTest::countsTheLowestMarkerOnly()
     const QString arabic = QString("%٣%4");
     QCOMPARE(fillMarkers(arabic, value), arabic.arg(value));
     // The marker that is filled is the lowest one wherever it stands, with an L or without.
-    for (const QString &marker : {QString("%2"), QString("%L2"), QString("%02")}) {
+    for (const QString &marker : {QString("%2"), QString("%L2"), QString("%02"), QString("%0")}) {
         const QString pattern = "%3" + marker.repeated(70000);
         QCOMPARE(fillMarkers(pattern, value), pattern);
     }
