@@ -14,6 +14,9 @@ target_compile_definitions(ProjectOptions INTERFACE
     QT_NO_FOREACH
     QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
 
+# An index out of range ends a debug build there and then.
+target_compile_definitions(ProjectWarnings INTERFACE $<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)
+
 if(MSVC)
     target_compile_options(ProjectWarnings INTERFACE
         /utf-8 /W4 $<$<BOOL:${TEXTOPER_WARNINGS_AS_ERRORS}>:/WX>)
