@@ -3,11 +3,13 @@
 #include <algorithm>
 
 // The functions behind the ones replaced here, by which the C library offers to replace them.
+// NOLINTBEGIN(bugprone-reserved-identifier)
 extern "C" {
 void *__libc_malloc(std::size_t size);
 void *__libc_calloc(std::size_t count, std::size_t size);
 void *__libc_realloc(void *memory, std::size_t size);
 }
+// NOLINTEND(bugprone-reserved-identifier)
 
 namespace {
 
