@@ -100,10 +100,14 @@ QString takeOperand(ByteSource &source)
     return source.takeBelow(5) == 0 ? source.takeText(40) : QString(source.takeOneOf(operands));
 }
 
-/// As many decimals as `QString::number` can be asked for without a thought.
-bool hasAffordableDecimals(const QString &operand)
+/// No more decimals than `QString::number` can be asked for without a thought.
+QString takeDecimals(ByteSource &source)
 {
-    return operand != "2147483647.9" && operand.toDouble() < 5000;
+    static constexpr const char *decimals[] = {
+        "",   "0",  "1",           "2",     "2.9",   " 3 ", "-1",   "1074",
+        "$n", "$d", "$list.Count", "$none", "$list", "x",   "4096", "nan",
+        "$b", "1,", "2147483648",  "-inf",  "1e400", "007", "1e3",  "-2147483648.5"};
+    return source.takeOneOf(decimals);
 }
 
 QVariant takeSetting(ByteSource &source, const QMetaProperty &property)
@@ -116,8 +120,7 @@ QVariant takeSetting(ByteSource &source, const QMetaProperty &property)
         return source.takeOneOf(modes);
     if (name.endsWith("Var"))
         return takeName(source);
-    const QString operand = takeOperand(source);
-    return name == "decimals" && !hasAffordableDecimals(operand) ? QString("3") : operand;
+    return name == "decimals" ? takeDecimals(source) : takeOperand(source);
 }
 
 std::unique_ptr<Operation> takeStep(ByteSource &source)

@@ -96,6 +96,8 @@ std::vector<HostileStep> numberSteps()
         {"most decimals, grouped", type, decimals("2147483647", true), Ending::TooLarge, none},
         {"two thousand million decimals", type, decimals("2e9"), Ending::TooLarge, none},
         {"decimals beyond the memory", type, decimals("1e9"), Ending::TooLarge, none},
+        {"most decimals, from a text", type, decimals("$s"), Ending::TooLarge,
+         texts([] { return QString("2147483647"); })},
         {"decimals beyond an int", type, decimals("2147483648"), Ending::Result, none,
          isText("1235")},
         {"decimals of infinity", type, with(decimals("2147483647"), "value", "-inf"),
