@@ -1,5 +1,7 @@
 #include "tests/hostile/FailingAllocation.h"
 
+#include <QtGlobal>
+
 #include <algorithm>
 
 // The functions behind the ones replaced here, by which the C library offers to replace them.
@@ -54,17 +56,17 @@ std::size_t FailingAllocation::largest()
     return largestSize;
 }
 
-extern "C" void *malloc(std::size_t size)
+extern "C" Q_DECL_EXPORT void *malloc(std::size_t size)
 {
     return fails(size) ? nullptr : __libc_malloc(size);
 }
 
-extern "C" void *calloc(std::size_t count, std::size_t size)
+extern "C" Q_DECL_EXPORT void *calloc(std::size_t count, std::size_t size)
 {
     return fails(count * size) ? nullptr : __libc_calloc(count, size);
 }
 
-extern "C" void *realloc(void *memory, std::size_t size)
+extern "C" Q_DECL_EXPORT void *realloc(void *memory, std::size_t size)
 {
     return fails(size) ? nullptr : __libc_realloc(memory, size);
 }

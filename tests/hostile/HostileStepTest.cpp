@@ -23,7 +23,7 @@ void HostileStepTest::survives_data()
 void HostileStepTest::survives()
 {
     QFETCH(QByteArray, name);
-    constexpr int mostMilliseconds = 20000;
+    constexpr int mostMilliseconds = 60000;
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.start(QCoreApplication::applicationFilePath(), {"--run", QString::fromUtf8(name)});
