@@ -7,6 +7,7 @@
 #include <QtTest>
 
 #include <limits>
+#include <new>
 
 class ValueTextTest : public QuietTest
 {
@@ -16,6 +17,8 @@ private Q_SLOTS:
     void text_data();
     void text();
     void separatedText();
+    void manyElements();
+    void tooLarge();
     void deeplyNested();
     void listLike_data();
     void listLike();
@@ -75,6 +78,26 @@ void ValueTextTest::separatedText()
     QCOMPARE(listToText({"a", 1, "b"}, "--"), QString("a--1--b"));
     // A list within the list keeps its own separator.
     QCOMPARE(listToText({listOf({1, listOf({"x", List()})}), "y"}, "|"), QString("1, x, |y"));
+}
+
+void ValueTextTest::manyElements()
+{
+    constexpr int count = 3000;
+    List list;
+    for (int i = 0; i < count; ++i)
+        list.append(QString("ab"));
+    QCOMPARE(listToText(list, ","), QString("ab,").repeated(count - 1) + "ab");
+}
+
+/// More than an int can count, found out before memory is asked for.
+void ValueTextTest::tooLarge()
+{
+    const QString large(3 << 20, 'x');
+    List list;
+    for (int i = 0; i < 1000; ++i)
+        list.append(large);
+    QVERIFY_EXCEPTION_THROWN(listToText(list, ""), std::bad_alloc);
+    QCOMPARE(listToText({"a"}, large), QString("a"));
 }
 
 /// Deeper than a call within a call could go, and without rendering anything twice.
