@@ -1,5 +1,7 @@
 #include "operations/common/TextSearch.h"
 
+#include "operations/common/UnitSample.h"
+
 #include <QStringView>
 #include <QtAlgorithms>
 #include <QtEndian>
@@ -14,33 +16,6 @@ namespace {
 /// Up to here Qt's own search has no time to lose. It also has a quirk here that has to stay: it
 /// can take the second half of a surrogate pair for an unpaired one when case does not count.
 constexpr int shortText = 500;
-
-/// How often the units of a text occur in a sample of it, those with the same low byte counted
-/// together; there is none of a short text.
-class UnitSample
-{
-public:
-    explicit UnitSample(QStringView text)
-    {
-        constexpr int smallestText = 1024;
-        if (text.size() < smallestText)
-            return;
-        m_counts.fill(0);
-        m_isTaken = true;
-        constexpr int stretches = 8;
-        constexpr int stretchSize = 32;
-        for (int i = 0; i < stretches; ++i) {
-            for (const QChar unit : text.mid(text.size() / stretches * i, stretchSize))
-                ++m_counts[unit.cell()];
-        }
-    }
-
-    int count(ushort unit) const { return m_isTaken ? m_counts[unit & 0xff] : 0; }
-
-private:
-    bool m_isTaken = false;
-    std::array<int, 256> m_counts; ///< left as it is, when nothing is counted
-};
 
 /// 1 if `unit` has one of the first `count` forms, else 0: in 16 bits and without a branch, so that
 /// the processor does it for many units at once.
