@@ -63,13 +63,18 @@ QString CatalogCommand::summary() const
     return QStringLiteral("Lists the operations in the order of the catalogue.");
 }
 
+QString CatalogCommand::example() const
+{
+    return QStringLiteral("oprun catalog --json");
+}
+
 void CatalogCommand::addOptions(QCommandLineParser &parser) const
 {
     parser.addOption(Options::json());
 }
 
-int CatalogCommand::run(const QCommandLineParser &options, const QStringList &arguments,
-                        const OperationCatalog &catalog, Console &console) const
+int CatalogCommand::runWith(const OperationCatalog &catalog, const QCommandLineParser &options,
+                            const QStringList &arguments, Console &console) const
 {
     Q_UNUSED(arguments)
     const auto groups = groupedByRoot(catalog);

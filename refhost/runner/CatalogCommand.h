@@ -1,14 +1,17 @@
 #pragma once
 
-#include "refhost/runner/Command.h"
+#include "refhost/runner/PluginCommand.h"
 
 /// "oprun catalog": what the plug-ins contribute, in the order in which a user sees it.
-class CatalogCommand : public Command
+class CatalogCommand : public PluginCommand
 {
 public:
     QString name() const override;
     QString summary() const override;
+    QString example() const override;
     void addOptions(QCommandLineParser &parser) const override;
-    int run(const QCommandLineParser &options, const QStringList &arguments,
-            const OperationCatalog &catalog, Console &console) const override;
+
+protected:
+    int runWith(const OperationCatalog &catalog, const QCommandLineParser &options,
+                const QStringList &arguments, Console &console) const override;
 };

@@ -4,8 +4,6 @@
 #include <QStringList>
 
 class Console;
-class OperationCatalog;
-struct CatalogEntry;
 class QCommandLineParser;
 
 /// One command of oprun, such as "run".
@@ -19,20 +17,17 @@ public:
     virtual QString name() const = 0;
     /// What it does, in one sentence.
     virtual QString summary() const = 0;
+    /// A command line that shows it at work, as the help prints it.
+    virtual QString example() const = 0;
     /// The arguments it expects after its name, as the help shows them; those in square brackets
-    /// may be left out.
+    /// may be left out, and the last may be repeated when it ends in "...".
     virtual QStringList arguments() const { return {}; }
     /// Adds the options that only this command has.
     virtual void addOptions(QCommandLineParser &parser) const;
 
     /// Does the work. `arguments` are as many as `arguments()` allows. Returns the exit status.
     virtual int run(const QCommandLineParser &options, const QStringList &arguments,
-                    const OperationCatalog &catalog, Console &console) const = 0;
-
-protected:
-    /// The entry of an operation the user named; null, with a message, when there is none.
-    static const CatalogEntry *findOrComplain(const OperationCatalog &catalog,
-                                              const QString &typeId, const Console &console);
+                    Console &console) const = 0;
 
 private:
     Q_DISABLE_COPY_MOVE(Command)

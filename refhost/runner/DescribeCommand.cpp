@@ -80,6 +80,11 @@ QString DescribeCommand::summary() const
     return QStringLiteral("Shows the properties of an operation as its editor is told about them.");
 }
 
+QString DescribeCommand::example() const
+{
+    return QStringLiteral("oprun describe text.pad");
+}
+
 QStringList DescribeCommand::arguments() const
 {
     return {QStringLiteral("TYPE")};
@@ -90,8 +95,8 @@ void DescribeCommand::addOptions(QCommandLineParser &parser) const
     parser.addOption(Options::json());
 }
 
-int DescribeCommand::run(const QCommandLineParser &options, const QStringList &arguments,
-                         const OperationCatalog &catalog, Console &console) const
+int DescribeCommand::runWith(const OperationCatalog &catalog, const QCommandLineParser &options,
+                             const QStringList &arguments, Console &console) const
 {
     const CatalogEntry *const entry = findOrComplain(catalog, arguments.first(), console);
     if (!entry)

@@ -122,13 +122,18 @@ QString DocsCommand::summary() const
     return QStringLiteral("Prints the reference page of the operations in Markdown.");
 }
 
+QString DocsCommand::example() const
+{
+    return QStringLiteral("oprun docs > operations.md");
+}
+
 void DocsCommand::addOptions(QCommandLineParser &parser) const
 {
     parser.addOption(iconsOption());
 }
 
-int DocsCommand::run(const QCommandLineParser &options, const QStringList &arguments,
-                     const OperationCatalog &catalog, Console &console) const
+int DocsCommand::runWith(const OperationCatalog &catalog, const QCommandLineParser &options,
+                         const QStringList &arguments, Console &console) const
 {
     Q_UNUSED(arguments)
     const Result<ExampleBook> book = ExampleBook::read(catalog);

@@ -1,14 +1,17 @@
 #pragma once
 
-#include "refhost/runner/Command.h"
+#include "refhost/runner/PluginCommand.h"
 
 /// "oprun docs": the reference page of all operations, in Markdown.
-class DocsCommand : public Command
+class DocsCommand : public PluginCommand
 {
 public:
     QString name() const override;
     QString summary() const override;
+    QString example() const override;
     void addOptions(QCommandLineParser &parser) const override;
-    int run(const QCommandLineParser &options, const QStringList &arguments,
-            const OperationCatalog &catalog, Console &console) const override;
+
+protected:
+    int runWith(const OperationCatalog &catalog, const QCommandLineParser &options,
+                const QStringList &arguments, Console &console) const override;
 };

@@ -86,6 +86,11 @@ QString ExamplesCommand::summary() const
     return QStringLiteral("Prints the worked examples that come with the plug-ins.");
 }
 
+QString ExamplesCommand::example() const
+{
+    return QStringLiteral("oprun examples text.find");
+}
+
 QStringList ExamplesCommand::arguments() const
 {
     return {QStringLiteral("[TYPE]")};
@@ -96,8 +101,8 @@ void ExamplesCommand::addOptions(QCommandLineParser &parser) const
     parser.addOption(checkOption());
 }
 
-int ExamplesCommand::run(const QCommandLineParser &options, const QStringList &arguments,
-                         const OperationCatalog &catalog, Console &console) const
+int ExamplesCommand::runWith(const OperationCatalog &catalog, const QCommandLineParser &options,
+                             const QStringList &arguments, Console &console) const
 {
     const Result<ExampleBook> book = ExampleBook::read(catalog);
     if (!book) {

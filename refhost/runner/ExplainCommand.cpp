@@ -17,13 +17,18 @@ QString ExplainCommand::summary() const
     return QStringLiteral("Prints the summary and the sentence of each step without running it.");
 }
 
-QStringList ExplainCommand::arguments() const
+QString ExplainCommand::example() const
 {
-    return {QStringLiteral("TASK.json")};
+    return QStringLiteral("oprun explain examples/invoice.json");
 }
 
-int ExplainCommand::run(const QCommandLineParser &options, const QStringList &arguments,
-                        const OperationCatalog &catalog, Console &console) const
+QStringList ExplainCommand::arguments() const
+{
+    return {QStringLiteral("TASK")};
+}
+
+int ExplainCommand::runWith(const OperationCatalog &catalog, const QCommandLineParser &options,
+                            const QStringList &arguments, Console &console) const
 {
     Q_UNUSED(options)
     const Result<Task> task = TaskReader(catalog).readFile(arguments.first());

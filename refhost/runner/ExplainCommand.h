@@ -1,14 +1,17 @@
 #pragma once
 
-#include "refhost/runner/Command.h"
+#include "refhost/runner/PluginCommand.h"
 
-/// "oprun explain TASK.json": what each step would do, without running any.
-class ExplainCommand : public Command
+/// "oprun explain TASK": what each step would do, without running any.
+class ExplainCommand : public PluginCommand
 {
 public:
     QString name() const override;
     QString summary() const override;
+    QString example() const override;
     QStringList arguments() const override;
-    int run(const QCommandLineParser &options, const QStringList &arguments,
-            const OperationCatalog &catalog, Console &console) const override;
+
+protected:
+    int runWith(const OperationCatalog &catalog, const QCommandLineParser &options,
+                const QStringList &arguments, Console &console) const override;
 };

@@ -1,7 +1,5 @@
 #include "refhost/runner/Oprun.h"
 
-#include "refhost/engine/OperationCatalog.h"
-#include "refhost/engine/PluginFolder.h"
 #include "refhost/runner/CatalogCommand.h"
 #include "refhost/runner/Console.h"
 #include "refhost/runner/DescribeCommand.h"
@@ -57,9 +55,10 @@ QString overview(const Commands &commands)
 bool takes(const Command &command, int count)
 {
     const QStringList all = command.arguments();
+    const bool repeats = !all.isEmpty() && all.last().endsWith(QLatin1String("..."));
     const auto isOptional = [](const QString &name) { return name.startsWith(QLatin1Char('[')); };
     const auto optional = std::count_if(all.begin(), all.end(), isOptional);
-    return count <= all.size() && count >= all.size() - optional;
+    return (repeats || count <= all.size()) && count >= all.size() - optional;
 }
 
 QString listOr(const QStringList &words, const QString &none)
@@ -88,41 +87,12 @@ int usageError(const Console &console, const QString &message)
     return BadInput;
 }
 
-/// The plug-in files to load; empty, with a message, when none is given or found.
-QStringList chosenPlugins(const QCommandLineParser &options, const Console &console)
-{
-    if (options.isSet(Options::plugin()))
-        return options.values(Options::plugin());
-    const QStringList folders = pluginFolders(QCoreApplication::applicationDirPath());
-    QStringList files = pluginFiles(folders);
-    if (files.isEmpty()) {
-        console.complain(
-            QStringLiteral("no plug-in found in %1; expected one there or --plugin FILE")
-                .arg(folders.join(QLatin1String(" or "))));
-    }
-    return files;
-}
-
-int runWithCatalog(const Command &command, const QCommandLineParser &options, Console &console)
-{
-    const QStringList files = chosenPlugins(options, console);
-    if (files.isEmpty())
-        return PluginNotLoaded;
-    const OperationCatalog catalog(files);
-    for (const Problem &failure : catalog.failures())
-        console.complain(failure.toString());
-    if (!catalog.failures().isEmpty())
-        return PluginNotLoaded;
-    const QStringList arguments = options.positionalArguments().mid(1);
-    const int status = command.run(options, arguments, catalog, console);
-    return console.flush() ? status : BadInput;
-}
-
 int runCommand(const Command &command, QCommandLineParser &parser, const QStringList &arguments)
 {
     Console console;
     parser.clearPositionalArguments();
-    parser.setApplicationDescription(command.summary());
+    parser.setApplicationDescription(
+        QStringLiteral("%1\n\nExample:\n  %2").arg(command.summary(), command.example()));
     parser.addPositionalArgument(command.name(), command.summary());
     for (const QString &argument : command.arguments())
         parser.addPositionalArgument(argument, QString());
@@ -138,7 +108,8 @@ int runCommand(const Command &command, QCommandLineParser &parser, const QString
                               .arg(command.name(), listOr(given, QStringLiteral("no argument")),
                                    listOr(command.arguments(), QStringLiteral("none"))));
     }
-    return runWithCatalog(command, parser, console);
+    const int status = command.run(parser, given, console);
+    return console.flush() ? status : BadInput;
 }
 
 } // namespace

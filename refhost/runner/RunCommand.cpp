@@ -150,9 +150,14 @@ QString RunCommand::summary() const
     return QStringLiteral("Runs a task and prints its variables.");
 }
 
+QString RunCommand::example() const
+{
+    return QStringLiteral("oprun run examples/invoice.json --set number=7 --print result");
+}
+
 QStringList RunCommand::arguments() const
 {
-    return {QStringLiteral("TASK.json")};
+    return {QStringLiteral("TASK")};
 }
 
 void RunCommand::addOptions(QCommandLineParser &parser) const
@@ -160,8 +165,8 @@ void RunCommand::addOptions(QCommandLineParser &parser) const
     parser.addOptions({setOption(), printOption(), Options::json(), traceOption(), strictOption()});
 }
 
-int RunCommand::run(const QCommandLineParser &options, const QStringList &arguments,
-                    const OperationCatalog &catalog, Console &console) const
+int RunCommand::runWith(const OperationCatalog &catalog, const QCommandLineParser &options,
+                        const QStringList &arguments, Console &console) const
 {
     const QString &file = arguments.first();
     Result<Task> task = TaskReader(catalog).readFile(file);

@@ -1,15 +1,18 @@
 #pragma once
 
-#include "refhost/runner/Command.h"
+#include "refhost/runner/PluginCommand.h"
 
-/// "oprun run TASK.json": runs a task and prints its variables.
-class RunCommand : public Command
+/// "oprun run TASK": runs a task and prints its variables.
+class RunCommand : public PluginCommand
 {
 public:
     QString name() const override;
     QString summary() const override;
+    QString example() const override;
     QStringList arguments() const override;
     void addOptions(QCommandLineParser &parser) const override;
-    int run(const QCommandLineParser &options, const QStringList &arguments,
-            const OperationCatalog &catalog, Console &console) const override;
+
+protected:
+    int runWith(const OperationCatalog &catalog, const QCommandLineParser &options,
+                const QStringList &arguments, Console &console) const override;
 };

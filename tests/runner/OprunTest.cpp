@@ -201,9 +201,9 @@ void OprunTest::refuses_data()
         "Unknown option 'trace'. Try \"oprun --help\".");
     row("option without its value", valid, {"run", "bad.json", "--set"},
         "Missing value after '--set'. Try \"oprun --help\".");
-    row("no task", valid, {"run"}, "run: no argument; expected TASK.json. Try \"oprun --help\".");
+    row("no task", valid, {"run"}, "run: no argument; expected TASK. Try \"oprun --help\".");
     row("two tasks", valid, {"run", "a", "b"},
-        "run: a b; expected TASK.json. Try \"oprun --help\".");
+        "run: a b; expected TASK. Try \"oprun --help\".");
     row("argument too many", valid, {"catalog", "x"},
         "catalog: x; expected none. Try \"oprun --help\".");
     row("unknown type to describe", valid, {"describe", "text.glue"},

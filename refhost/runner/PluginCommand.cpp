@@ -1,0 +1,55 @@
+#include "refhost/runner/PluginCommand.h"
+
+#include "refhost/engine/JsonValue.h"
+#include "refhost/engine/OperationCatalog.h"
+#include "refhost/engine/PluginFolder.h"
+#include "refhost/runner/Console.h"
+#include "refhost/runner/ExitStatus.h"
+#include "refhost/runner/Options.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+
+namespace {
+
+/// The plug-in files to load; empty, with a message, when none is given or found.
+QStringList chosenPlugins(const QCommandLineParser &options, const Console &console)
+{
+    if (options.isSet(Options::plugin()))
+        return options.values(Options::plugin());
+    const QStringList folders = pluginFolders(QCoreApplication::applicationDirPath());
+    QStringList files = pluginFiles(folders);
+    if (files.isEmpty()) {
+        console.complain(
+            QStringLiteral("no plug-in found in %1; expected one there or --plugin FILE")
+                .arg(folders.join(QLatin1String(" or "))));
+    }
+    return files;
+}
+
+} // namespace
+
+int PluginCommand::run(const QCommandLineParser &options, const QStringList &arguments,
+                       Console &console) const
+{
+    const QStringList files = chosenPlugins(options, console);
+    if (files.isEmpty())
+        return PluginNotLoaded;
+    const OperationCatalog catalog(files);
+    for (const Problem &failure : catalog.failures())
+        console.complain(failure.toString());
+    if (!catalog.failures().isEmpty())
+        return PluginNotLoaded;
+    return runWith(catalog, options, arguments, console);
+}
+
+const CatalogEntry *PluginCommand::findOrComplain(const OperationCatalog &catalog,
+                                                  const QString &typeId, const Console &console)
+{
+    const CatalogEntry *const entry = catalog.find(typeId);
+    if (!entry) {
+        console.complain(QStringLiteral("no operation %1; expected %2")
+                             .arg(jsonText(typeId), catalog.typeIds().join(QLatin1String(", "))));
+    }
+    return entry;
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "refhost/runner/Command.h"
+
+class OperationCatalog;
+struct CatalogEntry;
+
+/// A command that works on the operations of the plug-ins: those named with "--plugin", else those
+/// found beside the program.
+class PluginCommand : public Command
+{
+public:
+    /// Loads the plug-ins and runs the command on them; with a message when one does not load.
+    int run(const QCommandLineParser &options, const QStringList &arguments,
+            Console &console) const final;
+
+protected:
+    /// Does the work. `arguments` are as many as `arguments()` allows. Returns the exit status.
+    virtual int runWith(const OperationCatalog &catalog, const QCommandLineParser &options,
+                        const QStringList &arguments, Console &console) const = 0;
+
+    /// The entry of an operation the user named; null, with a message, when there is none.
+    static const CatalogEntry *findOrComplain(const OperationCatalog &catalog,
+                                              const QString &typeId, const Console &console);
+};
