@@ -28,7 +28,8 @@ QVariant emptyValue(VarType type)
 
 QVariant VariableScope::get(const QString &name) const
 {
-    return m_variables.value(name).value;
+    const auto variable = m_variables.constFind(name);
+    return variable == m_variables.cend() ? QVariant() : variable->value;
 }
 
 void VariableScope::set(const QString &name, const QVariant &value)
@@ -42,7 +43,8 @@ void VariableScope::set(const QString &name, const QVariant &value)
 
 VarType VariableScope::typeOf(const QString &name) const
 {
-    return m_variables.value(name).type;
+    const auto variable = m_variables.constFind(name);
+    return variable == m_variables.cend() ? VarType::None : variable->type;
 }
 
 void VariableScope::declare(const QString &name, VarType type, const QVariant &value)

@@ -8,28 +8,33 @@
 
 namespace {
 
-QString lineAndColumn(const QByteArray &text, const QJsonParseError &error)
+QString lineAndColumn(qint64 line, int column)
+{
+    return QStringLiteral("line %1, column %2").arg(line).arg(column);
+}
+
+QString placeOf(const QJsonParseError &error, const QByteArray &text, qint64 firstLine)
 {
     // Qt's parser has taken the character that it could not use, unless it was through already.
     const bool wasThrough = error.error == QJsonParseError::GarbageAtEnd;
     const QByteArray before = text.left(wasThrough ? error.offset : std::max(0, error.offset - 1));
     const int lineStart = before.lastIndexOf('\n') + 1;
     const int column = QString::fromUtf8(before.mid(lineStart)).size() + 1;
-    return QStringLiteral("line %1, column %2").arg(before.count('\n') + 1).arg(column);
+    return lineAndColumn(firstLine + before.count('\n'), column);
 }
 
 } // namespace
 
-Result<QJsonObject> parseJsonObject(const QByteArray &json, const QString &file)
+Result<QJsonObject> parseJsonObject(const QByteArray &json, const QString &file, qint64 firstLine)
 {
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(json, &error);
     if (error.error != QJsonParseError::NoError) {
-        return Problem{Problem::Reason::MalformedJson, file, lineAndColumn(json, error),
+        return Problem{Problem::Reason::MalformedJson, file, placeOf(error, json, firstLine),
                        QStringLiteral("malformed JSON (%1)").arg(error.errorString())};
     }
     if (!document.isObject()) {
-        return Problem{Problem::Reason::WrongKind, file, QStringLiteral("line 1, column 1"),
+        return Problem{Problem::Reason::WrongKind, file, lineAndColumn(firstLine, 1),
                        QStringLiteral("an array; expected an object in braces")};
     }
     return document.object();

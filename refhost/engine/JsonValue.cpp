@@ -124,6 +124,35 @@ QJsonValue jsonFromText(const QString &text, VarType type)
     return array.size() == 1 ? array.first() : QJsonValue(QJsonValue::Undefined);
 }
 
+/// Whether JSON has the character as it is.
+bool isPlain(QChar character)
+{
+    return character >= QLatin1Char(' ') && character != QLatin1Char('"') &&
+           character != QLatin1Char('\\') && !character.isSurrogate();
+}
+
+void appendString(QByteArray &text, const QString &string)
+{
+    if (!std::all_of(string.begin(), string.end(), isPlain)) {
+        text += jsonText(string).toUtf8();
+        return;
+    }
+    text += '"';
+    text += string.toUtf8();
+    text += '"';
+}
+
+void appendList(QByteArray &text, const QVariantList &list)
+{
+    char before = '[';
+    for (const QVariant &element : list) {
+        text += before;
+        appendJsonText(text, element);
+        before = ',';
+    }
+    text += list.isEmpty() ? "[]" : "]";
+}
+
 } // namespace
 
 Result<QVariant> variantFromJson(const QJsonValue &json, VarType type)
@@ -174,4 +203,16 @@ QString jsonText(const QJsonValue &json)
 {
     const QByteArray wrapped = QJsonDocument(QJsonArray{json}).toJson(QJsonDocument::Compact);
     return QString::fromUtf8(wrapped.mid(1, wrapped.size() - 2));
+}
+
+void appendJsonText(QByteArray &text, const QVariant &value)
+{
+    if (value.type() == QVariant::String)
+        appendString(text, value.toString());
+    else if (value.type() == QVariant::List)
+        appendList(text, value.toList());
+    else if (value.type() == QVariant::Int)
+        text += QByteArray::number(value.toInt());
+    else
+        text += jsonText(variantToJson(value)).toUtf8();
 }

@@ -4,6 +4,7 @@
 
 #include "VarType.h"
 
+#include <QByteArray>
 #include <QJsonValue>
 #include <QString>
 #include <QVariant>
@@ -25,3 +26,7 @@ Problem wrongKind(const QString &place, const QJsonValue &found, const QString &
 
 /// `json` as compact JSON text, scalars included.
 QString jsonText(const QJsonValue &json);
+
+/// Appends what `jsonText(variantToJson(value))` gives, in UTF-8 and without the detour where the
+/// value is plain.
+void appendJsonText(QByteArray &text, const QVariant &value);

@@ -7,6 +7,7 @@ struct Problem
 {
     enum class Reason {
         UnreadableFile,
+        UnwritableFile,
         MalformedJson,
         WrongKind,  ///< another kind of JSON value than expected
         UnknownKey, ///< a key nobody reads, or a property the operation does not have

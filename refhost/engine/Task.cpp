@@ -16,6 +16,15 @@ TaskVariable *Task::variable(const QString &name)
     return found == variables.end() ? nullptr : &*found;
 }
 
+Task Task::clone() const
+{
+    Task copy;
+    copy.variables = variables;
+    for (const auto &step : steps)
+        copy.steps.emplace_back(step->clone(nullptr));
+    return copy;
+}
+
 VariableScope Task::startScope() const
 {
     VariableScope scope;

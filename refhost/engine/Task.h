@@ -35,6 +35,9 @@ public:
     /// The variable called `name`, null when there is none. Valid until the list changes.
     TaskVariable *variable(const QString &name);
 
+    /// A task with equal variables and clones of the steps.
+    Task clone() const;
+
     /// A scope with all variables at their start values.
     VariableScope startScope() const;
 };

@@ -3,8 +3,11 @@
 /// What oprun tells the program that started it.
 enum ExitStatus : int {
     Success = 0,
-    Warned = 1,         ///< a run logged a warning, and was asked to be strict
-    Differs = 1,        ///< a worked example gave something else than it says
-    BadInput = 2,       ///< the command line, a file or an output cannot be used
-    PluginNotLoaded = 3 ///< a plug-in does not load
+    Warned = 1,          ///< a run logged a warning, and was asked to be strict
+    Differs = 1,         ///< a worked example gave something else than it says
+    RowFailed = 1,       ///< a row failed
+    BadInput = 2,        ///< the command line, a file or an output cannot be used
+    PluginNotLoaded = 3, ///< a plug-in does not load
+    Interrupted = 130,   ///< asked to end while rows were left, as a shell would report it
+    ReaderGone = 141     ///< nobody reads the output any more, as a shell would report it
 };

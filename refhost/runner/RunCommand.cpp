@@ -7,92 +7,15 @@
 #include "refhost/runner/ExitStatus.h"
 #include "refhost/runner/OneLine.h"
 #include "refhost/runner/Options.h"
+#include "refhost/runner/RunOptions.h"
+#include "refhost/runner/rows/RowRun.h"
 
 #include "Operation.h"
 
 #include <QCommandLineParser>
 #include <QJsonObject>
 
-#include <optional>
-
 namespace {
-
-QCommandLineOption setOption()
-{
-    return {QStringLiteral("set"), QStringLiteral("Start with this value; repeatable."),
-            QStringLiteral("NAME=TEXT")};
-}
-
-QCommandLineOption printOption()
-{
-    return {QStringLiteral("print"),
-            QStringLiteral("Print only this variable, its bare value; repeatable."),
-            QStringLiteral("NAME")};
-}
-
-QCommandLineOption traceOption()
-{
-    return {QStringLiteral("trace"), QStringLiteral("Show on standard error what each step did.")};
-}
-
-QCommandLineOption strictOption()
-{
-    return {QStringLiteral("strict"),
-            QStringLiteral("Exit with status 1 when a step logged a warning.")};
-}
-
-Problem unknownVariable(const QString &option, const QString &name, const Task &task)
-{
-    QStringList names;
-    for (const TaskVariable &variable : task.variables)
-        names.append(variable.name);
-    return {Problem::Reason::UnknownVariable,
-            {},
-            option,
-            QStringLiteral("the task has no variable %1; expected %2")
-                .arg(jsonText(name), names.isEmpty() ? QStringLiteral("none at all")
-                                                     : names.join(QLatin1String(", ")))};
-}
-
-/// Takes over the start value of one "--set NAME=TEXT".
-std::optional<Problem> applySetting(Task &task, const QString &setting)
-{
-    const QString place = QStringLiteral("--set");
-    const int equals = setting.indexOf(QLatin1Char('='));
-    if (equals < 0) {
-        return Problem{Problem::Reason::UnfitValue,
-                       {},
-                       place,
-                       QStringLiteral("%1; expected NAME=TEXT").arg(jsonText(setting))};
-    }
-    const QString name = setting.left(equals);
-    TaskVariable *const variable = task.variable(name);
-    if (!variable)
-        return unknownVariable(place, name, task);
-    const Result<QVariant> value = variantFromText(setting.mid(equals + 1), variable->type);
-    if (!value) {
-        Problem problem = value.problem();
-        problem.place = place + QLatin1Char(' ') + name;
-        return problem;
-    }
-    variable->value = value.value();
-    return std::nullopt;
-}
-
-std::optional<Problem> checkOptions(const QCommandLineParser &options, Task &task)
-{
-    const QStringList settings = options.values(setOption());
-    for (const QString &setting : settings) {
-        if (auto problem = applySetting(task, setting))
-            return problem;
-    }
-    const QStringList printed = options.values(printOption());
-    for (const QString &name : printed) {
-        if (!task.variable(name))
-            return unknownVariable(QStringLiteral("--print"), name, task);
-    }
-    return std::nullopt;
-}
 
 QString valueText(const VariableScope &scope, const QString &name)
 {
@@ -138,6 +61,32 @@ void printVariables(const VariableScope &scope, const QStringList &chosen, bool 
         console.printJson(json);
 }
 
+int runOnce(const Task &task, const QCommandLineParser &options, const QString &file,
+            Console &console)
+{
+    bool warned = false;
+    VariableScope scope = task.startScope();
+    runTask(task, scope, [&](const StepReport &report) {
+        warned = warned || !report.warnings.isEmpty();
+        if (options.isSet(RunOptions::trace()))
+            traceStep(report, scope, console);
+        else
+            complainOfStep(report, file, console);
+    });
+    printVariables(scope, options.values(RunOptions::print()), options.isSet(Options::json()),
+                   console);
+    return warned && options.isSet(RunOptions::strict()) ? Warned : Success;
+}
+
+int runOnRows(const Task &task, const QCommandLineParser &options, const Console &console)
+{
+    const Result<RowRun> run = rowRunFromOptions(options, task);
+    if (run)
+        return runRows(task, run.value(), console);
+    console.complain(run.problem().toString());
+    return BadInput;
+}
+
 } // namespace
 
 QString RunCommand::name() const
@@ -147,7 +96,7 @@ QString RunCommand::name() const
 
 QString RunCommand::summary() const
 {
-    return QStringLiteral("Runs a task and prints its variables.");
+    return QStringLiteral("Runs a task, once or on each of many rows, and prints its variables.");
 }
 
 QString RunCommand::example() const
@@ -162,7 +111,7 @@ QStringList RunCommand::arguments() const
 
 void RunCommand::addOptions(QCommandLineParser &parser) const
 {
-    parser.addOptions({setOption(), printOption(), Options::json(), traceOption(), strictOption()});
+    parser.addOptions(RunOptions::all());
 }
 
 int RunCommand::runWith(const OperationCatalog &catalog, const QCommandLineParser &options,
@@ -174,19 +123,11 @@ int RunCommand::runWith(const OperationCatalog &catalog, const QCommandLineParse
         console.complain(task.problem().toString());
         return BadInput;
     }
-    if (const auto problem = checkOptions(options, task.value())) {
+    if (const auto problem = RunOptions::apply(options, task.value())) {
         console.complain(problem->toString());
         return BadInput;
     }
-    bool warned = false;
-    VariableScope scope = task.value().startScope();
-    runTask(task.value(), scope, [&](const StepReport &report) {
-        warned = warned || !report.warnings.isEmpty();
-        if (options.isSet(traceOption()))
-            traceStep(report, scope, console);
-        else
-            complainOfStep(report, file, console);
-    });
-    printVariables(scope, options.values(printOption()), options.isSet(Options::json()), console);
-    return warned && options.isSet(strictOption()) ? Warned : Success;
+    if (RunOptions::asksForRows(options))
+        return runOnRows(task.value(), options, console);
+    return runOnce(task.value(), options, file, console);
 }

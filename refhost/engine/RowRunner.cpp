@@ -1,0 +1,178 @@
+#include "refhost/engine/RowRunner.h"
+
+#include "refhost/engine/JsonFile.h"
+#include "refhost/engine/JsonValue.h"
+
+#include "Operation.h"
+
+#include <QJsonObject>
+#include <QTextCodec>
+
+#include <new>
+#include <utility>
+
+namespace {
+
+QString lineName(qint64 line)
+{
+    return QStringLiteral("line %1").arg(line);
+}
+
+Problem unfitRow(qint64 line, const QString &message)
+{
+    return {Problem::Reason::UnfitValue, {}, lineName(line), message};
+}
+
+Problem unknownVariable(const QStringList &known)
+{
+    return {Problem::Reason::UnknownVariable,
+            {},
+            {},
+            QStringLiteral("the task has no such variable; expected %1")
+                .arg(known.join(QLatin1String(", ")))};
+}
+
+Problem memberProblem(Problem problem, const QString &name, qint64 line)
+{
+    problem.place = lineName(line) + QLatin1String(", ") + jsonText(name);
+    return problem;
+}
+
+/// The text of UTF-8 bytes, a byte order mark included; null when they are not UTF-8.
+std::optional<QString> textFromUtf8(const QByteArray &bytes)
+{
+    static const QTextCodec *const codec = QTextCodec::codecForName("UTF-8");
+    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
+    QString text = codec->toUnicode(bytes.constData(), bytes.size(), &state);
+    if (state.invalidChars != 0 || state.remainingChars != 0)
+        return std::nullopt;
+    return text;
+}
+
+} // namespace
+
+RowRunner::RowRunner(Task task, const RowFormat &format)
+    : m_task(std::move(task))
+    , m_format(format)
+    , m_scope(m_task.startScope())
+    , m_start(m_task.variables)
+{
+    for (TaskVariable &variable : m_start) {
+        variable.value = m_scope.get(variable.name);
+    }
+    if (m_format.printed.isEmpty())
+        m_format.printed = m_scope.names();
+    m_format.printed.removeDuplicates();
+    char before = '{';
+    for (const QString &name : qAsConst(m_format.printed)) {
+        m_keys.append(before + jsonText(name).toUtf8() + ':');
+        before = ',';
+    }
+    for (const auto &step : m_task.steps)
+        step->setVariableScope(&m_scope);
+}
+
+RowOutcome RowRunner::run(const QByteArray &row, qint64 line)
+{
+    RowOutcome outcome;
+    try {
+        reset();
+        outcome.problem = take(row, line);
+        if (outcome.problem)
+            return outcome;
+        outcome.warnings = runSteps();
+        Result<QByteArray> written = output(line);
+        if (written)
+            outcome.output = written.value();
+        else
+            outcome.problem = written.problem();
+    } catch (const std::bad_alloc &) {
+        outcome.problem = unfitRow(line, QStringLiteral("the row does not fit into memory"));
+    }
+    return outcome;
+}
+
+void RowRunner::reset()
+{
+    for (const TaskVariable &variable : qAsConst(m_start))
+        m_scope.set(variable.name, variable.value);
+}
+
+std::optional<Problem> RowRunner::take(const QByteArray &row, qint64 line)
+{
+    return m_format.lineVariable.isEmpty() ? takeObject(row, line) : takeText(row, line);
+}
+
+std::optional<Problem> RowRunner::takeObject(const QByteArray &row, qint64 line)
+{
+    const Result<QJsonObject> object = parseJsonObject(row, {}, line);
+    if (!object)
+        return object.problem();
+    const QJsonObject &values = object.value();
+    for (auto member = values.begin(); member != values.end(); ++member) {
+        const QString name = member.key();
+        const VarType type = m_scope.typeOf(name);
+        if (type == VarType::None)
+            return memberProblem(unknownVariable(m_scope.names()), name, line);
+        const Result<QVariant> value = variantFromJson(member.value(), type);
+        if (!value)
+            return memberProblem(value.problem(), name, line);
+        m_scope.set(name, value.value());
+    }
+    return std::nullopt;
+}
+
+std::optional<Problem> RowRunner::takeText(const QByteArray &row, qint64 line)
+{
+    const std::optional<QString> text = textFromUtf8(row);
+    if (!text)
+        return unfitRow(line, QStringLiteral("bytes that are no text; expected UTF-8"));
+    const QString &name = m_format.lineVariable;
+    const Result<QVariant> value = variantFromText(*text, m_scope.typeOf(name));
+    if (!value) {
+        Problem problem = value.problem();
+        problem.place = lineName(line);
+        return problem;
+    }
+    m_scope.set(name, value.value());
+    return std::nullopt;
+}
+
+QList<StepWarning> RowRunner::runSteps()
+{
+    QList<StepWarning> warnings;
+    int index = 0;
+    for (const auto &step : m_task.steps) {
+        step->doOperation();
+        const QStringList lines = m_capture.takeLines();
+        for (const QString &line : lines)
+            warnings.append({index, step->typeId(), line});
+        ++index;
+    }
+    return warnings;
+}
+
+Result<QByteArray> RowRunner::output(qint64 line) const
+{
+    if (m_format.plainText)
+        return plainOutput(line);
+    QByteArray object;
+    for (int i = 0; i < m_keys.size(); ++i) {
+        object += m_keys.at(i);
+        appendJsonText(object, m_scope.get(m_format.printed.at(i)));
+    }
+    return object + (m_keys.isEmpty() ? "{}" : "}");
+}
+
+Result<QByteArray> RowRunner::plainOutput(qint64 line) const
+{
+    const QString &name = m_format.printed.first();
+    const QJsonValue value = variantToJson(m_scope.get(name));
+    const QByteArray text = (value.isString() ? value.toString() : jsonText(value)).toUtf8();
+    if (text.contains('\n')) {
+        return unfitRow(line, QStringLiteral("the value of %1 has a line break; expected one line, "
+                                             "or \"--json\" to print it as JSON")
+                                  .arg(jsonText(name)));
+    }
+    return text;
+}

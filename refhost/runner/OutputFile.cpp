@@ -1,0 +1,80 @@
+#include "refhost/runner/OutputFile.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include <cerrno>
+#include <cstdio>
+
+OutputFile::OutputFile(const QString &name)
+    : m_name(name)
+{
+}
+
+OutputFile::~OutputFile() = default;
+
+QString OutputFile::name() const
+{
+    return isStandardOutput() ? QStringLiteral("standard output") : m_name;
+}
+
+bool OutputFile::isStandardOutput() const
+{
+    return m_name == QLatin1String("-");
+}
+
+Problem OutputFile::unwritable(const QString &reason) const
+{
+    return {Problem::Reason::UnwritableFile,
+            name(),
+            {},
+            QStringLiteral("cannot be written (%1)").arg(reason)};
+}
+
+std::optional<Problem> OutputFile::open()
+{
+    if (isStandardOutput())
+        return std::nullopt;
+    if (m_name.isEmpty())
+        return unwritable(QStringLiteral("an empty file name"));
+    const QFileInfo there(m_name);
+    // A device or a pipe is written to, not replaced.
+    if (there.exists() && !there.isFile() && !there.isDir())
+        m_file = std::make_unique<QFile>(m_name);
+    else
+        m_file = std::make_unique<QSaveFile>(m_name);
+    if (!m_file->open(QIODevice::WriteOnly))
+        return unwritable(m_file->errorString());
+    return std::nullopt;
+}
+
+std::optional<Problem> OutputFile::write(const QByteArray &bytes)
+{
+    if (isStandardOutput())
+        return writeToStandardOutput(bytes);
+    if (m_file->write(bytes) != bytes.size())
+        return unwritable(m_file->errorString());
+    return std::nullopt;
+}
+
+std::optional<Problem> OutputFile::writeToStandardOutput(const QByteArray &bytes)
+{
+    errno = 0;
+    const auto size = static_cast<std::size_t>(bytes.size());
+    if (std::fwrite(bytes.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0)
+        return std::nullopt;
+    m_readerIsGone = errno == EPIPE;
+    return unwritable(qt_error_string(errno));
+}
+
+std::optional<Problem> OutputFile::commit()
+{
+    if (isStandardOutput())
+        return std::nullopt;
+    auto *const whole = qobject_cast<QSaveFile *>(m_file.get());
+    const bool done = whole ? whole->commit() : m_file->flush();
+    if (!done)
+        return unwritable(m_file->errorString());
+    return std::nullopt;
+}

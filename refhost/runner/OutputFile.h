@@ -1,0 +1,46 @@
+#pragma once
+
+#include "refhost/engine/Problem.h"
+
+#include <QByteArray>
+#include <QFileDevice>
+#include <QString>
+
+#include <memory>
+#include <optional>
+
+/// A file that appears whole, with `commit`, or not at all; or standard output, which is written as
+/// it comes.
+class OutputFile
+{
+public:
+    /// `name` is that of a file, or "-" for standard output.
+    explicit OutputFile(const QString &name);
+    ~OutputFile();
+
+    /// How problems call it.
+    QString name() const;
+
+    /// Opens it. A problem tells why it cannot be written.
+    std::optional<Problem> open();
+
+    /// Adds to it; standard output has it afterwards. A problem tells why it cannot be written.
+    std::optional<Problem> write(const QByteArray &bytes);
+
+    /// Whether writing failed because whoever read standard output has gone.
+    bool readerIsGone() const { return m_readerIsGone; }
+
+    /// Lets the file appear under its name. Without it there is none, or still the one before.
+    std::optional<Problem> commit();
+
+private:
+    Q_DISABLE_COPY_MOVE(OutputFile)
+
+    bool isStandardOutput() const;
+    std::optional<Problem> writeToStandardOutput(const QByteArray &bytes);
+    Problem unwritable(const QString &reason) const;
+
+    QString m_name;
+    std::unique_ptr<QFileDevice> m_file;
+    bool m_readerIsGone = false;
+};

@@ -1,0 +1,169 @@
+#include "refhost/runner/RunOptions.h"
+
+#include "refhost/engine/JsonValue.h"
+#include "refhost/engine/Task.h"
+#include "refhost/runner/Options.h"
+
+#include <QCommandLineParser>
+
+#include <algorithm>
+
+namespace {
+
+/// Takes over the start value of one "--set NAME=TEXT".
+std::optional<Problem> applySetting(Task &task, const QString &setting)
+{
+    const QString place = QStringLiteral("--set");
+    const int equals = setting.indexOf(QLatin1Char('='));
+    if (equals < 0) {
+        return Problem{Problem::Reason::UnfitValue,
+                       {},
+                       place,
+                       QStringLiteral("%1; expected NAME=TEXT").arg(jsonText(setting))};
+    }
+    const QString name = setting.left(equals);
+    if (auto problem = RunOptions::findMissingVariable(place, name, task))
+        return problem;
+    TaskVariable *const variable = task.variable(name);
+    const Result<QVariant> value = variantFromText(setting.mid(equals + 1), variable->type);
+    if (!value) {
+        Problem problem = value.problem();
+        problem.place = place + QLatin1Char(' ') + name;
+        return problem;
+    }
+    variable->value = value.value();
+    return std::nullopt;
+}
+
+/// An option that only makes sense with rows, or never does, if one was given.
+std::optional<Problem> findMisplacedOption(const QCommandLineParser &options)
+{
+    const bool rows = RunOptions::asksForRows(options);
+    const QList<QCommandLineOption> misplaced =
+        rows ? QList<QCommandLineOption>{RunOptions::trace()}
+             : QList<QCommandLineOption>{RunOptions::out(), RunOptions::errors(),
+                                         RunOptions::failFast(), RunOptions::jobs()};
+    for (const QCommandLineOption &option : misplaced) {
+        if (options.isSet(option)) {
+            return Problem{Problem::Reason::UnfitValue,
+                           {},
+                           QStringLiteral("--") + option.names().first(),
+                           rows ? QStringLiteral("cannot go with rows; leave out \"--each\"")
+                                : QStringLiteral("is about rows; expected \"--each FILE\", too")};
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+QCommandLineOption RunOptions::set()
+{
+    return {QStringLiteral("set"), QStringLiteral("Start with this value; repeatable."),
+            QStringLiteral("NAME=TEXT")};
+}
+
+QCommandLineOption RunOptions::print()
+{
+    return {QStringLiteral("print"),
+            QStringLiteral("Print only this variable, its bare value; repeatable."),
+            QStringLiteral("NAME")};
+}
+
+QCommandLineOption RunOptions::trace()
+{
+    return {QStringLiteral("trace"), QStringLiteral("Show on standard error what each step did.")};
+}
+
+QCommandLineOption RunOptions::strict()
+{
+    return {QStringLiteral("strict"),
+            QStringLiteral("Exit with status 1 when a step logged a warning.")};
+}
+
+QCommandLineOption RunOptions::each()
+{
+    return {QStringLiteral("each"),
+            QStringLiteral("Run on each line of this file (\"-\": standard input), a JSON object "
+                           "of values for variables, and print one line of JSON for it."),
+            QStringLiteral("FILE")};
+}
+
+QCommandLineOption RunOptions::lines()
+{
+    return {QStringLiteral("lines"),
+            QStringLiteral("The rows are plain text for this variable; with a single --print the "
+                           "output is, too."),
+            QStringLiteral("NAME")};
+}
+
+QCommandLineOption RunOptions::out()
+{
+    return {QStringLiteral("out"),
+            QStringLiteral("Write the lines to this file, which appears when all rows are done."),
+            QStringLiteral("FILE"), QStringLiteral("-")};
+}
+
+QCommandLineOption RunOptions::errors()
+{
+    return {QStringLiteral("errors"),
+            QStringLiteral("Write rows that failed, and warnings, to this file as JSON lines "
+                           "instead of to standard error."),
+            QStringLiteral("FILE")};
+}
+
+QCommandLineOption RunOptions::failFast()
+{
+    return {QStringLiteral("fail-fast"), QStringLiteral("Stop at the first row that fails.")};
+}
+
+QCommandLineOption RunOptions::jobs()
+{
+    return {QStringLiteral("jobs"),
+            QStringLiteral("Run rows on this many threads; their order stays."),
+            QStringLiteral("N"), QStringLiteral("1")};
+}
+
+QList<QCommandLineOption> RunOptions::all()
+{
+    return {set(),   print(), Options::json(), trace(),    strict(), each(),
+            lines(), out(),   errors(),        failFast(), jobs()};
+}
+
+bool RunOptions::asksForRows(const QCommandLineParser &options)
+{
+    return options.isSet(each()) || options.isSet(lines());
+}
+
+std::optional<Problem> RunOptions::apply(const QCommandLineParser &options, Task &task)
+{
+    if (auto problem = findMisplacedOption(options))
+        return problem;
+    const QStringList settings = options.values(set());
+    for (const QString &setting : settings) {
+        if (auto problem = applySetting(task, setting))
+            return problem;
+    }
+    const QStringList printed = options.values(print());
+    for (const QString &name : printed) {
+        if (auto problem = findMissingVariable(QStringLiteral("--print"), name, task))
+            return problem;
+    }
+    return std::nullopt;
+}
+
+std::optional<Problem> RunOptions::findMissingVariable(const QString &option, const QString &name,
+                                                       const Task &task)
+{
+    QStringList names;
+    for (const TaskVariable &variable : task.variables)
+        names.append(variable.name);
+    if (names.contains(name))
+        return std::nullopt;
+    return Problem{Problem::Reason::UnknownVariable,
+                   {},
+                   option,
+                   QStringLiteral("the task has no variable %1; expected %2")
+                       .arg(jsonText(name), names.isEmpty() ? QStringLiteral("none at all")
+                                                            : names.join(QLatin1String(", ")))};
+}

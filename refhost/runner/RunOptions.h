@@ -1,0 +1,60 @@
+#pragma once
+
+#include "refhost/engine/Problem.h"
+
+#include <QCommandLineOption>
+#include <QList>
+#include <QString>
+
+#include <optional>
+
+class QCommandLineParser;
+class Task;
+
+/// The options of "oprun run".
+namespace RunOptions {
+
+/// --set NAME=TEXT: start with this value; repeatable.
+QCommandLineOption set();
+
+/// --print NAME: print only this variable; repeatable.
+QCommandLineOption print();
+
+/// --trace: tell what each step did.
+QCommandLineOption trace();
+
+/// --strict: a warning of a step makes the exit status 1.
+QCommandLineOption strict();
+
+/// --each FILE: run on each row of a file.
+QCommandLineOption each();
+
+/// --lines NAME: the rows are plain text for this variable.
+QCommandLineOption lines();
+
+/// --out FILE: where the lines of the rows go.
+QCommandLineOption out();
+
+/// --errors FILE: where that goes which is wrong with rows.
+QCommandLineOption errors();
+
+/// --fail-fast: stop at the first row that fails.
+QCommandLineOption failFast();
+
+/// --jobs N: the number of threads.
+QCommandLineOption jobs();
+
+/// All of them, with "--json".
+QList<QCommandLineOption> all();
+
+/// Whether the task is to run on rows.
+bool asksForRows(const QCommandLineParser &options);
+
+/// Checks the options that every run has, and gives the task the start values they say.
+std::optional<Problem> apply(const QCommandLineParser &options, Task &task);
+
+/// That the task has no variable `name`, which `option` wants, if so.
+std::optional<Problem> findMissingVariable(const QString &option, const QString &name,
+                                           const Task &task);
+
+} // namespace RunOptions

@@ -1,0 +1,85 @@
+#include "refhost/runner/rows/BatchPool.h"
+
+#include <utility>
+
+BatchPool::BatchPool(const std::vector<WorkMaker> &makers, Sink sink)
+    : m_sink(std::move(sink))
+    , m_mostWaiting(2 * makers.size() + 2)
+{
+    for (const WorkMaker &maker : makers)
+        m_threads.emplace_back([this, maker] { work(maker); });
+}
+
+BatchPool::~BatchPool()
+{
+    finish();
+}
+
+bool BatchPool::add(RowBatch batch)
+{
+    std::unique_lock lock(m_mutex);
+    m_changed.wait(lock, [this] {
+        return m_isStopped || static_cast<std::size_t>(m_added - m_next) < m_mostWaiting;
+    });
+    if (m_isStopped)
+        return false;
+    ++m_added;
+    m_batches.push_back(std::move(batch));
+    m_changed.notify_all();
+    return true;
+}
+
+void BatchPool::finish()
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        m_isFinished = true;
+        m_changed.notify_all();
+    }
+    for (std::thread &thread : m_threads)
+        thread.join();
+    m_threads.clear();
+}
+
+void BatchPool::work(const WorkMaker &maker)
+{
+    const Work run = maker();
+    RowBatch batch;
+    while (takeBatch(batch))
+        handOver(batch.number, run(batch));
+}
+
+/// Waits for a batch. False when there will be none.
+bool BatchPool::takeBatch(RowBatch &batch)
+{
+    std::unique_lock lock(m_mutex);
+    m_changed.wait(lock, [this] { return m_isStopped || m_isFinished || !m_batches.empty(); });
+    if (m_isStopped || m_batches.empty())
+        return false;
+    batch = std::move(m_batches.front());
+    m_batches.pop_front();
+    return true;
+}
+
+/// Keeps the outcome until its turn comes. The thread that finds the sink free calls it for all
+/// outcomes whose turn has come, so a slow sink keeps one thread busy and no other waiting.
+void BatchPool::handOver(qint64 number, RowBatchOutcome outcome)
+{
+    std::unique_lock lock(m_mutex);
+    m_outcomes.emplace(number, std::move(outcome));
+    if (m_handsOver)
+        return;
+    m_handsOver = true;
+    for (auto first = m_outcomes.find(m_next); first != m_outcomes.end() && !m_isStopped;
+         first = m_outcomes.find(m_next)) {
+        const RowBatchOutcome current = std::move(first->second);
+        m_outcomes.erase(first);
+        lock.unlock();
+        const bool wantsMore = m_sink(current);
+        lock.lock();
+        ++m_next;
+        m_isStopped = m_isStopped || !wantsMore;
+        m_changed.notify_all();
+    }
+    m_handsOver = false;
+}

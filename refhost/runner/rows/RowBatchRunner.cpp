@@ -1,0 +1,84 @@
+#include "refhost/runner/rows/RowBatchRunner.h"
+
+#include "refhost/runner/rows/Interruption.h"
+#include "refhost/runner/rows/RowBatch.h"
+#include "refhost/runner/rows/RowSource.h"
+
+#include <utility>
+
+namespace {
+
+void addFailure(RowBatchOutcome &outcome, qint64 line, const Problem &problem,
+                const QByteArray &row)
+{
+    ++outcome.tally.rows;
+    ++outcome.tally.failed;
+    outcome.notes.append({line, problem, row, {}});
+}
+
+Problem tooLong(qint64 line)
+{
+    return {Problem::Reason::UnfitValue,
+            {},
+            QStringLiteral("line %1").arg(line),
+            QStringLiteral("a row of more than %1 bytes").arg(RowSource::longestRow)};
+}
+
+} // namespace
+
+RowBatchRunner::RowBatchRunner(Task task, const RowFormat &format, bool stopsAtFailure,
+                               const Interruption &interruption)
+    : m_runner(std::move(task), format)
+    , m_takesObjects(format.lineVariable.isEmpty())
+    , m_stopsAtFailure(stopsAtFailure)
+    , m_interruption(interruption)
+{
+}
+
+RowBatchOutcome RowBatchRunner::run(const RowBatch &batch)
+{
+    RowBatchOutcome outcome;
+    if (batch.tooLong)
+        addFailure(outcome, batch.firstLine, tooLong(batch.firstLine), {});
+    qint64 line = batch.firstLine;
+    for (int begin = 0; begin < batch.lines.size() && !outcome.isLast; ++line) {
+        int end = batch.lines.indexOf('\n', begin);
+        if (end < 0)
+            end = batch.lines.size();
+        const int next = end + 1;
+        if (end > begin && batch.lines.at(end - 1) == '\r')
+            --end;
+        // No copy: the batch outlives the row.
+        runRow(QByteArray::fromRawData(batch.lines.constData() + begin, end - begin), line,
+               outcome);
+        begin = next;
+        outcome.isLast = outcome.isLast || m_interruption.requested();
+    }
+    if (m_stopsAtFailure && outcome.tally.failed > 0)
+        outcome.isLast = true;
+    return outcome;
+}
+
+/// Blank lines between JSON objects are no rows.
+bool RowBatchRunner::isNoRow(const QByteArray &row) const
+{
+    return m_takesObjects && row.trimmed().isEmpty();
+}
+
+void RowBatchRunner::runRow(const QByteArray &row, qint64 line, RowBatchOutcome &outcome)
+{
+    if (isNoRow(row))
+        return;
+    const RowOutcome result = m_runner.run(row, line);
+    if (result.problem) {
+        const QByteArray kept(row.constData(), row.size());
+        addFailure(outcome, line, *result.problem, kept);
+        outcome.isLast = m_stopsAtFailure;
+        return;
+    }
+    ++outcome.tally.rows;
+    outcome.tally.warnings += result.warnings.size();
+    for (const StepWarning &warning : result.warnings)
+        outcome.notes.append({line, std::nullopt, {}, warning});
+    outcome.output += result.output + '\n';
+}

@@ -1,0 +1,192 @@
+#include "refhost/runner/rows/RowRun.h"
+
+#include "refhost/engine/JsonValue.h"
+#include "refhost/engine/Task.h"
+#include "refhost/runner/Console.h"
+#include "refhost/runner/ExitStatus.h"
+#include "refhost/runner/Options.h"
+#include "refhost/runner/OutputFile.h"
+#include "refhost/runner/RunOptions.h"
+#include "refhost/runner/rows/BatchPool.h"
+#include "refhost/runner/rows/Interruption.h"
+#include "refhost/runner/rows/RowBatchRunner.h"
+#include "refhost/runner/rows/RowSink.h"
+#include "refhost/runner/rows/RowSource.h"
+
+#include <QCommandLineParser>
+#include <QFileInfo>
+
+#include <memory>
+#include <vector>
+
+namespace {
+
+constexpr int mostJobs = 256;
+
+Problem unfitOption(const QString &option, const QString &message)
+{
+    return {Problem::Reason::UnfitValue, {}, option, message};
+}
+
+/// The file of errors has to have a name, and one of its own.
+std::optional<Problem> checkErrorFile(const QCommandLineParser &options, const RowRun &run)
+{
+    const QString place = QStringLiteral("--errors");
+    if (options.isSet(RunOptions::errors()) && run.errors.isEmpty())
+        return unfitOption(place, QStringLiteral("an empty file name; expected a file"));
+    const auto absolute = [](const QString &file) { return QFileInfo(file).absoluteFilePath(); };
+    if (!run.errors.isEmpty() && absolute(run.errors) == absolute(run.out)) {
+        return unfitOption(place, QStringLiteral("%1 is where the lines go; expected another file")
+                                      .arg(jsonText(run.errors)));
+    }
+    return std::nullopt;
+}
+
+/// The work of one thread on clones of its own.
+BatchPool::WorkMaker makerFor(const Task &task, const RowRun &run, const Interruption &interruption)
+{
+    // Shared, since a function can be copied and a task cannot.
+    const auto own = std::make_shared<Task>(task.clone());
+    return [own, run, &interruption]() -> BatchPool::Work {
+        const auto runner = std::make_shared<RowBatchRunner>(std::move(*own), run.format,
+                                                             run.stopsAtFailure, interruption);
+        return [runner](const RowBatch &batch) { return runner->run(batch); };
+    };
+}
+
+void runOnThreads(const Task &task, const RowRun &run, const Interruption &interruption,
+                  RowSource &source, RowSink &sink)
+{
+    std::vector<BatchPool::WorkMaker> makers;
+    for (int job = 0; job < run.jobs; ++job)
+        makers.push_back(makerFor(task, run, interruption));
+    BatchPool pool(makers, [&](const RowBatchOutcome &outcome) { return sink.take(outcome); });
+    while (auto batch = source.next()) {
+        if (!pool.add(std::move(*batch)))
+            return;
+    }
+    pool.finish();
+}
+
+void runHere(const Task &task, const RowRun &run, const Interruption &interruption,
+             RowSource &source, RowSink &sink)
+{
+    const BatchPool::Work work = makerFor(task, run, interruption)();
+    while (const auto batch = source.next()) {
+        if (!sink.take(work(*batch)))
+            return;
+    }
+}
+
+/// The first of the two that there is.
+std::optional<Problem> firstOf(std::optional<Problem> first, std::optional<Problem> second)
+{
+    return first ? std::move(first) : std::move(second);
+}
+
+/// How the rows came to an end.
+struct RowEnd
+{
+    int status = Success;
+    QString reason; ///< why rows are left, empty when none are
+    bool keepsErrors = true;
+    std::optional<Problem> problem;
+};
+
+RowEnd endOf(const RowRun &run, const RowSink &sink, const std::optional<Problem> &problem,
+             bool readerIsGone, bool interrupted)
+{
+    if (readerIsGone)
+        return {ReaderGone, QStringLiteral("nobody reads the output any more"), false, {}};
+    if (problem)
+        return {BadInput, QStringLiteral("stopped"), false, problem};
+    if (run.stopsAtFailure && sink.tally().failed > 0)
+        return {RowFailed, QStringLiteral("stopped at the first that failed"), true, {}};
+    if (interrupted)
+        return {Interrupted, QStringLiteral("interrupted"), false, {}};
+    if (sink.tally().failed > 0)
+        return {RowFailed, {}, true, {}};
+    return {run.isStrict && sink.tally().warnings > 0 ? Warned : Success, {}, true, {}};
+}
+
+QString summary(const RowTally &tally, const RowEnd &end, const RowRun &run)
+{
+    QString text = QStringLiteral("%1 rows: %2 done, %3 failed; %4 warnings")
+                       .arg(tally.rows)
+                       .arg(tally.rows - tally.failed)
+                       .arg(tally.failed)
+                       .arg(tally.warnings);
+    const bool outIsMissing = !end.reason.isEmpty() || end.problem;
+    if (!end.reason.isEmpty())
+        text += QStringLiteral("; ") + end.reason;
+    if (outIsMissing && run.out != QLatin1String("-"))
+        text += QStringLiteral("; %1 is not written").arg(run.out);
+    return text;
+}
+
+} // namespace
+
+Result<RowRun> rowRunFromOptions(const QCommandLineParser &options, const Task &task)
+{
+    RowRun run;
+    run.rows =
+        options.isSet(RunOptions::each()) ? options.value(RunOptions::each()) : QStringLiteral("-");
+    run.out = options.value(RunOptions::out());
+    run.errors = options.value(RunOptions::errors());
+    run.stopsAtFailure = options.isSet(RunOptions::failFast());
+    run.isStrict = options.isSet(RunOptions::strict());
+    run.format.lineVariable = options.value(RunOptions::lines());
+    run.format.printed = options.values(RunOptions::print());
+    run.format.plainText = options.isSet(RunOptions::lines()) && run.format.printed.size() == 1 &&
+                           !options.isSet(Options::json());
+
+    if (options.isSet(RunOptions::lines())) {
+        if (const auto problem = RunOptions::findMissingVariable(QStringLiteral("--lines"),
+                                                                 run.format.lineVariable, task))
+            return *problem;
+    }
+    if (const auto problem = checkErrorFile(options, run))
+        return *problem;
+    bool isNumber = false;
+    run.jobs = options.value(RunOptions::jobs()).toInt(&isNumber);
+    if (!isNumber || run.jobs < 1 || run.jobs > mostJobs) {
+        return unfitOption(QStringLiteral("--jobs"),
+                           QStringLiteral("%1; expected a whole number from 1 to %2")
+                               .arg(jsonText(options.value(RunOptions::jobs())))
+                               .arg(mostJobs));
+    }
+    return run;
+}
+
+int runRows(const Task &task, const RowRun &run, const Console &console)
+{
+    const Interruption interruption;
+    RowSource source(run.rows, interruption);
+    OutputFile out(run.out);
+    OutputFile errors(run.errors);
+    OutputFile *const errorFile = run.errors.isEmpty() ? nullptr : &errors;
+    auto problem = firstOf(source.open(), out.open());
+    if (!problem && errorFile)
+        problem = errors.open();
+    if (problem) {
+        console.complain(problem->toString());
+        return BadInput;
+    }
+    RowSink sink(source.name(), out, errorFile, console);
+    if (run.jobs > 1)
+        runOnThreads(task, run, interruption, source, sink);
+    else
+        runHere(task, run, interruption, source, sink);
+    sink.finish();
+
+    RowEnd end = endOf(run, sink, firstOf(source.problem(), sink.problem()), out.readerIsGone(),
+                       interruption.requested());
+    if (end.reason.isEmpty() && !end.problem)
+        end.problem = out.commit();
+    if (end.keepsErrors && errorFile && !end.problem)
+        end.problem = errors.commit();
+    if (end.problem)
+        console.complain(end.problem->toString());
+    console.complain(summary(sink.tally(), end, run));
+    return end.problem ? BadInput : end.status;
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "refhost/engine/Result.h"
+#include "refhost/engine/RowFormat.h"
+
+#include <QString>
+
+class Console;
+class QCommandLineParser;
+class Task;
+
+/// What the command line says about running a task on rows.
+struct RowRun
+{
+    QString rows;   ///< the file they come from, "-" for standard input
+    QString out;    ///< the file the lines go to, "-" for standard output
+    QString errors; ///< the file of what went wrong, empty for standard error
+    int jobs = 1;   ///< the number of threads
+    bool stopsAtFailure = false;
+    bool isStrict = false; ///< a warning counts as a failure for the exit status
+    RowFormat format;
+};
+
+/// Reads the options; a problem names the first that cannot be used.
+Result<RowRun> rowRunFromOptions(const QCommandLineParser &options, const Task &task);
+
+/// Runs the task on all rows, with a summary at the end. Returns the exit status.
+int runRows(const Task &task, const RowRun &run, const Console &console);

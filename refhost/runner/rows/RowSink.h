@@ -1,0 +1,45 @@
+#pragma once
+
+#include "refhost/engine/Problem.h"
+#include "refhost/runner/OutputFile.h"
+#include "refhost/runner/rows/ProgressLine.h"
+#include "refhost/runner/rows/RowBatchOutcome.h"
+
+#include <optional>
+
+class Console;
+
+/// Takes what comes of the rows: prints the lines, notes what went wrong, and counts.
+class RowSink
+{
+public:
+    /// `source` is how messages call the input. The lines go to `out`; the notes go to the file
+    /// `errors`, or to standard error when it is null. All of them have to outlive the sink.
+    RowSink(const QString &source, OutputFile &out, OutputFile *errors, const Console &console);
+
+    /// Takes the next outcome. False when no more are wanted.
+    bool take(const RowBatchOutcome &outcome);
+
+    /// Takes the line of progress away.
+    void finish() { m_progress.clear(); }
+
+    /// What has been taken so far.
+    const RowTally &tally() const { return m_tally; }
+
+    /// Why an output cannot be written, if it cannot.
+    const std::optional<Problem> &problem() const { return m_problem; }
+
+private:
+    Q_DISABLE_COPY_MOVE(RowSink)
+
+    void write(OutputFile &file, const QByteArray &bytes);
+    void complain(const RowNote &note) const;
+
+    QString m_source;
+    OutputFile &m_out;
+    OutputFile *m_errors;
+    const Console &m_console;
+    ProgressLine m_progress;
+    RowTally m_tally;
+    std::optional<Problem> m_problem;
+};

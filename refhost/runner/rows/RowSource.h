@@ -1,0 +1,57 @@
+#pragma once
+
+#include "refhost/engine/Problem.h"
+#include "refhost/runner/rows/RowBatch.h"
+
+#include <QByteArray>
+#include <QFile>
+#include <QString>
+
+#include <optional>
+
+class Interruption;
+
+/// Reads the lines of a file, or of standard input, batch by batch: what is there is handed over
+/// without waiting for more.
+class RowSource
+{
+public:
+    /// The most bytes a row may have.
+    static constexpr int longestRow = 256 * 1024 * 1024;
+
+    /// Reads the file called `name`, or standard input for "-", until it ends or is interrupted.
+    RowSource(const QString &name, const Interruption &interruption);
+
+    /// How problems call the source.
+    QString name() const;
+
+    /// Opens it. A problem tells why it cannot be read.
+    std::optional<Problem> open();
+
+    /// The next batch; nothing at the end, after an interruption, or with a problem.
+    std::optional<RowBatch> next();
+
+    /// Why reading ended before the end, if it did.
+    const std::optional<Problem> &problem() const { return m_problem; }
+
+private:
+    Q_DISABLE_COPY_MOVE(RowSource)
+
+    Problem unreadable(const QString &reason) const;
+    bool readBlock();
+    std::optional<RowBatch> takeLines();
+    std::optional<RowBatch> takeRest();
+    RowBatch batchOf(const QByteArray &lines);
+    void keepForLater();
+
+    QString m_name;
+    const Interruption &m_interruption;
+    QFile m_file;
+    QByteArray m_block; ///< read, and not looked at yet
+    QByteArray m_rest;  ///< the begin of the line that goes on in the next block
+    bool m_atEnd = false;
+    bool m_passesOver = false; ///< within a line that is too long
+    qint64 m_number = 0;
+    qint64 m_line = 1;
+    std::optional<Problem> m_problem;
+};
