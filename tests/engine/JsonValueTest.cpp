@@ -24,6 +24,7 @@ private Q_SLOTS:
     void toJson_data();
     void toJson();
     void specialNumbers();
+    void appendedText();
 };
 
 namespace {
@@ -179,6 +180,38 @@ void JsonValueTest::specialNumbers()
         QVERIFY(back);
         const double number = back.value().toDouble();
         QVERIFY(number == value || (std::isnan(number) && std::isnan(value)));
+    }
+}
+
+void JsonValueTest::appendedText()
+{
+    QVariantList values{QVariant(),
+                        "",
+                        QString(),
+                        "中文",
+                        "a\"b\\c/d\b\f\n\r\t\x01\x1f\x7f<>&'",
+                        QString(QChar(0xD800)),
+                        QString::fromUtf8("😀"),
+                        QString(QChar(0)),
+                        QString(QChar(0xFFFF)),
+                        0,
+                        std::numeric_limits<int>::min(),
+                        9007199254740993LL,
+                        0.1,
+                        -0.0,
+                        1e300,
+                        std::numeric_limits<double>::infinity(),
+                        std::numeric_limits<double>::quiet_NaN(),
+                        true,
+                        QStringList({"a", "b\n"}),
+                        QVariantList()};
+    for (int unit = 0; unit < 0x300; ++unit)
+        values.append(QString(QChar(unit)));
+    values.append(listOf({listOf({1, "x"}), QVariantList(), "y"}));
+    for (const QVariant &value : qAsConst(values)) {
+        QByteArray text("before ");
+        appendJsonText(text, value);
+        QCOMPARE(text, "before " + jsonText(variantToJson(value)).toUtf8());
     }
 }
 

@@ -3,6 +3,7 @@
 #include "refhost/runner/rows/Interruption.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <utility>
 
@@ -13,27 +14,28 @@
 namespace {
 
 /// How much is read at once; also about the size of a batch.
-constexpr int blockSize = 64 * 1024;
+using Block = std::array<char, 64 * 1024>;
 
 /// Reads what is there, which may be less than a block: QFile would wait for all of it.
-qint64 readAvailable(QFile &file, char *data)
+qint64 readAvailable(QFile &file, Block &block)
 {
 #ifdef Q_OS_UNIX
     ssize_t size = 0;
     do {
-        size = read(file.handle(), data, blockSize);
+        size = read(file.handle(), block.data(), block.size());
     } while (size < 0 && errno == EINTR);
     return size;
 #else
-    return file.read(data, blockSize);
+    return file.read(block.data(), static_cast<qint64>(block.size()));
 #endif
 }
 
 } // namespace
 
-RowSource::RowSource(const QString &name, const Interruption &interruption)
+RowSource::RowSource(const QString &name, const Interruption &interruption, int limit)
     : m_name(name)
     , m_interruption(interruption)
+    , m_limit(limit)
 {
 }
 
@@ -44,6 +46,8 @@ QString RowSource::name() const
 
 std::optional<Problem> RowSource::open()
 {
+    if (m_name.isEmpty())
+        return unreadable(QStringLiteral("an empty file name"));
     constexpr int standardInput = 0;
     const QIODevice::OpenMode mode = QIODevice::ReadOnly | QIODevice::Unbuffered;
     m_file.setFileName(m_name);
@@ -78,9 +82,9 @@ bool RowSource::readBlock()
 {
     if (!m_interruption.waitForInput(m_file.handle()))
         return false;
-    m_block.resize(blockSize);
-    const qint64 size = readAvailable(m_file, m_block.data());
-    m_block.truncate(static_cast<int>(std::max<qint64>(size, 0)));
+    Block block;
+    const qint64 size = readAvailable(m_file, block);
+    m_block = QByteArray(block.data(), static_cast<int>(std::max<qint64>(size, 0)));
     m_atEnd = size == 0;
     if (size < 0)
         m_problem = unreadable(qt_error_string(errno));
@@ -105,7 +109,7 @@ void RowSource::keepForLater()
     if (!m_passesOver)
         m_rest += m_block;
     m_block.clear();
-    if (m_rest.size() > longestRow) {
+    if (m_rest.size() > m_limit) {
         m_passesOver = true;
         m_rest.clear();
     }

@@ -16,11 +16,12 @@ class Interruption;
 class RowSource
 {
 public:
-    /// The most bytes a row may have.
+    /// About the most bytes a row may have.
     static constexpr int longestRow = 256 * 1024 * 1024;
 
-    /// Reads the file called `name`, or standard input for "-", until it ends or is interrupted.
-    RowSource(const QString &name, const Interruption &interruption);
+    /// Reads the file called `name`, or standard input for "-", until it ends or is interrupted. A
+    /// line of more than `limit` bytes is passed over as soon as a block of it is too much.
+    RowSource(const QString &name, const Interruption &interruption, int limit = longestRow);
 
     /// How problems call the source.
     QString name() const;
@@ -46,6 +47,7 @@ private:
 
     QString m_name;
     const Interruption &m_interruption;
+    int m_limit;
     QFile m_file;
     QByteArray m_block; ///< read, and not looked at yet
     QByteArray m_rest;  ///< the begin of the line that goes on in the next block

@@ -1,0 +1,377 @@
+#include "tests/support/OprunFolder.h"
+#include "tests/support/QuietTest.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QtTest>
+
+#include <csignal>
+#include <memory>
+
+/// "oprun run --each" as a process.
+class RowsTest : public QuietTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void filters_data();
+    void filters();
+    void badRows();
+    void errorFile();
+    void warnings();
+    void failFast_data();
+    void failFast();
+    void manyRowsInOrder();
+    void refuses_data();
+    void refuses();
+    void outAppearsWholeOrNotAtAll();
+    void outMayBeTheInput();
+    void outMayBeADevice();
+    void answersEachRowAtOnce();
+    void interrupted_data();
+    void interrupted();
+    void readerGoesAway();
+
+private:
+    std::unique_ptr<OprunFolder> m_folder;
+};
+
+namespace {
+
+const char sampleTask[] = R"({
+    "variables": {
+        "word": {"type": "string", "value": "a"},
+        "n": {"type": "int", "value": 3},
+        "r": {"type": "string"}
+    },
+    "steps": [{"type": "text.append", "sourceText": "$word", "appendText": "$n", "resultVar": "r"}]
+})";
+
+const char warningTask[] = R"({
+    "variables": {"n": {"type": "int"}},
+    "steps": [{"type": "text.append", "resultVar": "n"}]
+})";
+
+const char badRowFile[] = "{\"n\":1}\n"
+                          "\n"
+                          "[]\n"
+                          "{\"word\":\"b\"}\n"
+                          "{\"n\":\"x\"}\n"
+                          "{\"word\":\"\xff\"}\n"
+                          "{\"n\":2}";
+
+const char badRowErrors[] =
+    "{\"line\":3,\"problem\":\"line 3, column 1: an array; expected an object in braces\","
+    "\"row\":\"[]\"}\n"
+    "{\"line\":5,\"problem\":\"line 5, \\\"n\\\": \\\"x\\\"; expected a whole number from -2147483648 "
+    "to 2147483647\",\"row\":\"{\\\"n\\\":\\\"x\\\"}\"}\n"
+    "{\"line\":6,\"problem\":\"line 6, column 9: malformed JSON (invalid UTF8 string)\","
+    "\"rowBase64\":\"eyJ3b3JkIjoi/yJ9\"}\n";
+
+QString lineOf(const QString &number)
+{
+    return QString(R"({"r":"a%1"})").arg(number) + '\n';
+}
+
+} // namespace
+
+void RowsTest::initTestCase()
+{
+    m_folder = std::make_unique<OprunFolder>(OPRUN_FILE);
+    QVERIFY(m_folder->write("task.json", sampleTask));
+    QVERIFY(m_folder->write("warn.json", warningTask));
+    QVERIFY(m_folder->write("rows", "{\"n\":1}\n{\"n\":2}\r\n \t\n{}\n"));
+    QVERIFY(m_folder->write("bad", badRowFile));
+    QVERIFY(m_folder->write("lines", "b\r\n\nc d\r"));
+    QByteArray many;
+    for (int i = 0; i < 40'000; ++i)
+        many += "{\"n\":" + QByteArray::number(i) + "}\n";
+    QVERIFY(m_folder->write("many", many));
+}
+
+void RowsTest::filters_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QString>("out");
+
+    QTest::newRow("rows of a file")
+        << "$OPRUN run task.json --each rows --print r" << lineOf("1") + lineOf("2") + lineOf("3");
+    QTest::newRow("rows of standard input") << "$OPRUN run task.json --each - --print r < rows"
+                                            << lineOf("1") + lineOf("2") + lineOf("3");
+    QTest::newRow("all variables") << "echo {} | $OPRUN run task.json --each -"
+                                   << "{\"n\":3,\"r\":\"a3\",\"word\":\"a\"}\n";
+    QTest::newRow("set is what a row starts with")
+        << "echo {} | $OPRUN run task.json --each - --set n=9 --print r" << lineOf("9");
+    QTest::newRow("lines") << "$OPRUN run task.json --each lines --lines word --print r"
+                           << "b3\n3\nc d3\n";
+    QTest::newRow("lines of standard input")
+        << "$OPRUN run task.json --lines word --print r < lines"
+        << "b3\n3\nc d3\n";
+    QTest::newRow("lines to JSON")
+        << "printf x | $OPRUN run task.json --lines word --print r --json"
+        << "{\"r\":\"x3\"}\n";
+    QTest::newRow("lines, two variables")
+        << "printf x | $OPRUN run task.json --lines word --print r --print n"
+        << "{\"r\":\"x3\",\"n\":3}\n";
+    QTest::newRow("lines for a number") << "echo 7 | $OPRUN run task.json --lines n --print r"
+                                        << "a7\n";
+    QTest::newRow("two jobs") << "$OPRUN run task.json --each rows --print r --jobs 2"
+                              << lineOf("1") + lineOf("2") + lineOf("3");
+    QTest::newRow("no rows") << "$OPRUN run task.json --each - < /dev/null"
+                             << "";
+}
+
+void RowsTest::filters()
+{
+    QFETCH(QString, line);
+    QFETCH(QString, out);
+
+    const auto outcome = m_folder->runShell(line);
+    QCOMPARE(outcome.out, out);
+    const int rows = out.count('\n');
+    QCOMPARE(outcome.err, QString("oprun: %1 rows: %1 done, 0 failed; 0 warnings\n").arg(rows));
+    QCOMPARE(outcome.status, 0);
+}
+
+void RowsTest::badRows()
+{
+    for (const QString jobs : {"1", "3"}) {
+        const auto outcome =
+            m_folder->run({"run", "task.json", "--each", "bad", "--print", "r", "--jobs", jobs});
+        QCOMPARE(outcome.out, lineOf("1") + "{\"r\":\"b3\"}\n" + lineOf("2"));
+        QCOMPARE(outcome.err,
+                 QString("oprun: bad: line 3, column 1: an array; expected an object in braces; "
+                         "the row: []\n"
+                         "oprun: bad: line 5, \"n\": \"x\"; expected a whole number from "
+                         "-2147483648 to 2147483647; the row: {\"n\":\"x\"}\n"
+                         "oprun: bad: line 6, column 9: malformed JSON (invalid UTF8 string); "
+                         "the row: {\"word\":\"\uFFFD\"}\n"
+                         "oprun: 6 rows: 3 done, 3 failed; 0 warnings\n"));
+        QCOMPARE(outcome.status, 1);
+    }
+}
+
+void RowsTest::errorFile()
+{
+    const auto outcome = m_folder->run({"run", "task.json", "--each", "bad", "--print", "r",
+                                        "--out", "out", "--errors", "errors"});
+    QCOMPARE(outcome.status, 1);
+    QCOMPARE(outcome.out, QString());
+    QCOMPARE(outcome.err, QString("oprun: 6 rows: 3 done, 3 failed; 0 warnings\n"));
+    QCOMPARE(m_folder->read("out"),
+             QString(lineOf("1") + "{\"r\":\"b3\"}\n" + lineOf("2")).toUtf8());
+    QCOMPARE(m_folder->read("errors"), QByteArray(badRowErrors));
+}
+
+void RowsTest::warnings()
+{
+    const QString warning = "[TextOp] 变量 \"n\" 未声明为字符串，已跳过";
+    auto outcome = m_folder->runShell("printf '{}\n{}\n' | $OPRUN run warn.json --each -");
+    QCOMPARE(outcome.out, QString("{\"n\":0}\n{\"n\":0}\n"));
+    const QString line = "oprun: standard input: line %1: steps[0] (text.append): %2\n";
+    QCOMPARE(outcome.err, line.arg("1", warning) + line.arg("2", warning) +
+                              "oprun: 2 rows: 2 done, 0 failed; 2 warnings\n");
+    QCOMPARE(outcome.status, 0);
+
+    outcome = m_folder->runShell("echo {} | $OPRUN run warn.json --each - --strict --errors w");
+    QCOMPARE(outcome.err, QString("oprun: 1 rows: 1 done, 0 failed; 1 warnings\n"));
+    QCOMPARE(outcome.status, 1);
+    const QString note = "{\"line\":1,\"step\":0,\"type\":\"text.append\",\"warning\":\"%1\"}\n";
+    QCOMPARE(m_folder->read("w"), note.arg(QString(warning).replace('"', "\\\"")).toUtf8());
+}
+
+void RowsTest::failFast_data()
+{
+    QTest::addColumn<QString>("jobs");
+
+    QTest::newRow("one job") << "1";
+    QTest::newRow("four jobs") << "4";
+}
+
+void RowsTest::failFast()
+{
+    QFETCH(QString, jobs);
+
+    QFile::remove(m_folder->filePath("out"));
+    QVERIFY(m_folder->write("late", m_folder->read("many") + "[]\n" + m_folder->read("many")));
+    const auto outcome =
+        m_folder->run({"run", "task.json", "--each", "late", "--print", "r", "--fail-fast",
+                       "--errors", "errors", "--out", "out", "--jobs", jobs});
+    QCOMPARE(outcome.status, 1);
+    QCOMPARE(outcome.err, QString("oprun: 40001 rows: 40000 done, 1 failed; 0 warnings; stopped at "
+                                  "the first that failed; out is not written\n"));
+    QVERIFY(!QFile::exists(m_folder->filePath("out")));
+    QVERIFY(m_folder->read("errors").startsWith("{\"line\":40001,"));
+
+    const auto printed = m_folder->run(
+        {"run", "task.json", "--each", "late", "--print", "n", "--fail-fast", "--jobs", jobs});
+    QCOMPARE(printed.out.toUtf8(), m_folder->read("many"));
+}
+
+void RowsTest::manyRowsInOrder()
+{
+    for (const QString jobs : {"1", "2", "7"}) {
+        const auto outcome =
+            m_folder->run({"run", "task.json", "--each", "many", "--print", "n", "--jobs", jobs});
+        QVERIFY(outcome.bytes == m_folder->read("many"));
+        QCOMPARE(outcome.err, QString("oprun: 40000 rows: 40000 done, 0 failed; 0 warnings\n"));
+    }
+}
+
+void RowsTest::refuses_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("message");
+
+    const auto row = [](const char *name, const QStringList &arguments, const QString &message) {
+        QTest::newRow(name) << QStringList({"run", "task.json"}) + arguments << message;
+    };
+    row("no such file", {"--each", "none"}, "none: cannot be read (No such file or directory)");
+    row("folder", {"--each", "."}, ".: cannot be read (file to open is a directory)");
+    row("out in no folder", {"--each", "rows", "--out", "none/out"},
+        "none/out: cannot be written (No such file or directory)");
+    row("errors in no folder", {"--each", "rows", "--errors", "none/e"},
+        "none/e: cannot be written (No such file or directory)");
+    row("empty out", {"--each", "rows", "--out", ""}, "cannot be written (an empty file name)");
+    row("empty errors", {"--each", "rows", "--errors", ""},
+        "--errors: an empty file name; expected a file");
+    row("errors where the lines go", {"--each", "rows", "--out", "o", "--errors", "./o"},
+        "--errors: \"./o\" is where the lines go; expected another file");
+    row("no jobs", {"--each", "rows", "--jobs", "0"},
+        "--jobs: \"0\"; expected a whole number from 1 to 256");
+    row("too many jobs", {"--each", "rows", "--jobs", "257"},
+        "--jobs: \"257\"; expected a whole number from 1 to 256");
+    row("jobs no number", {"--each", "rows", "--jobs", "two"},
+        "--jobs: \"two\"; expected a whole number from 1 to 256");
+    row("lines for no variable", {"--each", "rows", "--lines", "m"},
+        "--lines: the task has no variable \"m\"; expected n, r, word");
+    row("print no variable", {"--each", "rows", "--print", "m"},
+        "--print: the task has no variable \"m\"; expected n, r, word");
+    row("trace of rows", {"--each", "rows", "--trace"},
+        "--trace: cannot go with rows; leave out \"--each\"");
+    for (const QString option : {"--out", "--errors", "--jobs"}) {
+        row(qPrintable(option), {option, "2"},
+            option + ": is about rows; expected \"--each FILE\", too");
+    }
+    row("fail fast", {"--fail-fast"}, "--fail-fast: is about rows; expected \"--each FILE\", too");
+}
+
+void RowsTest::refuses()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, message);
+
+    const auto outcome = m_folder->run(arguments);
+    QCOMPARE(outcome.err, "oprun: " + message + '\n');
+    QCOMPARE(outcome.out, QString());
+    QCOMPARE(outcome.status, 2);
+    QVERIFY(!QFile::exists(m_folder->filePath("o")));
+}
+
+void RowsTest::outAppearsWholeOrNotAtAll()
+{
+    QVERIFY(m_folder->write("kept", "before"));
+    const auto outcome = m_folder->run({"run", "task.json", "--each", "bad", "--print", "r",
+                                        "--fail-fast", "--out", "kept", "--errors", "errors"});
+    QCOMPARE(outcome.status, 1);
+    QCOMPARE(m_folder->read("kept"), QByteArray("before"));
+    QCOMPARE(QDir(m_folder->path()).entryList({"kept*"}), QStringList("kept"));
+
+    const auto full = m_folder->run({"run", "task.json", "--each", "many", "--out", "/dev/full"});
+    QCOMPARE(full.status, 2);
+    QVERIFY2(full.err.startsWith("oprun: /dev/full: cannot be written (No space left on device)\n"),
+             qPrintable(full.err));
+}
+
+void RowsTest::outMayBeTheInput()
+{
+    QVERIFY(m_folder->write("both", "{\"n\":1}\n{\"n\":2}\n"));
+    QCOMPARE(m_folder->run({"run", "task.json", "--each", "both", "--print", "r", "--out", "both"})
+                 .status,
+             0);
+    QCOMPARE(m_folder->read("both"), QString(lineOf("1") + lineOf("2")).toUtf8());
+}
+
+void RowsTest::outMayBeADevice()
+{
+    const auto outcome =
+        m_folder->runShell("$OPRUN run task.json --each rows --print r --out /dev/stdout | cat");
+    QCOMPARE(outcome.out, lineOf("1") + lineOf("2") + lineOf("3"));
+}
+
+/// As a filter between two programs that talk to each other.
+void RowsTest::answersEachRowAtOnce()
+{
+    for (const QString jobs : {"1", "2"}) {
+        QProcess process;
+        process.setWorkingDirectory(m_folder->path());
+        process.start(OPRUN_FILE,
+                      {"run", "task.json", "--each", "-", "--print", "r", "--jobs", jobs});
+        QVERIFY(process.waitForStarted());
+        for (int i = 0; i < 3; ++i) {
+            process.write("{\"n\":" + QByteArray::number(i) + "}\n");
+            QTRY_VERIFY(process.waitForReadyRead(100) || process.canReadLine());
+            QCOMPARE(process.readLine(), lineOf(QString::number(i)).toUtf8());
+        }
+        process.closeWriteChannel();
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.exitCode(), 0);
+    }
+}
+
+void RowsTest::interrupted_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::addColumn<QString>("jobs");
+
+    QTest::newRow("Ctrl-C") << SIGINT << "1";
+    QTest::newRow("Ctrl-C, two jobs") << SIGINT << "2";
+    QTest::newRow("asked to end") << SIGTERM << "1";
+}
+
+void RowsTest::interrupted()
+{
+    QFETCH(int, signal);
+    QFETCH(QString, jobs);
+
+    QVERIFY(m_folder->write("kept", "before"));
+    for (const QString out : {"-", "kept"}) {
+        QProcess process;
+        process.setWorkingDirectory(m_folder->path());
+        process.start(OPRUN_FILE, {"run", "task.json", "--each", "-", "--print", "r", "--jobs",
+                                   jobs, "--out", out, "--errors", "errors-kept"});
+        QVERIFY(process.waitForStarted());
+        process.write("{\"n\":1}\n[]\n{\"n\":2}\n{\"n\":");
+        if (out == "-")
+            QTRY_COMPARE((process.waitForReadyRead(50), process.bytesAvailable()), qint64(22));
+        else
+            QTest::qWait(500);
+        QCOMPARE(kill(static_cast<pid_t>(process.processId()), signal), 0);
+        QVERIFY(process.waitForFinished(5000));
+        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(process.exitCode(), 130);
+        const QString missing = out == "-" ? "" : "; kept is not written";
+        QCOMPARE(QString::fromUtf8(process.readAllStandardError()),
+                 "oprun: 3 rows: 2 done, 1 failed; 0 warnings; interrupted" + missing + '\n');
+    }
+    QCOMPARE(m_folder->read("kept"), QByteArray("before"));
+    QVERIFY(!QFile::exists(m_folder->filePath("errors-kept")));
+}
+
+void RowsTest::readerGoesAway()
+{
+    for (const QString jobs : {"1", "3"}) {
+        const auto outcome = m_folder->runShell(
+            "yes '{\"n\":5}' | { $OPRUN run task.json --each - --print r --jobs " + jobs +
+            "; echo status $? >&2; } | head -n 2");
+        QCOMPARE(outcome.out, lineOf("5") + lineOf("5"));
+        QVERIFY2(outcome.err.contains(" failed; 0 warnings; nobody reads the output any more\n"),
+                 qPrintable(outcome.err));
+        QVERIFY2(outcome.err.endsWith("status 141\n"), qPrintable(outcome.err));
+        QCOMPARE(outcome.err.count('\n'), 2);
+    }
+}
+
+QTEST_GUILESS_MAIN(RowsTest)
+#include "RowsTest.moc"
