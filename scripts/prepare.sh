@@ -4,7 +4,8 @@
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 # What building and testing needs, as Debian and Ubuntu call it.
-needed_packages=(g++ cmake ninja-build qtbase5-dev qtbase5-dev-tools libqt5svg5-dev fonts-dejavu-core)
+needed_packages=(g++ cmake ninja-build qtbase5-dev qtbase5-dev-tools libqt5svg5-dev fonts-dejavu-core
+                 groff-base)
 
 as_root() {
     if [[ $EUID -eq 0 ]]; then

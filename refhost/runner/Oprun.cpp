@@ -9,9 +9,9 @@
 #include "refhost/runner/ExplainCommand.h"
 #include "refhost/runner/Options.h"
 #include "refhost/runner/RunCommand.h"
+#include "refhost/runner/Versions.h"
 
 #include <QCommandLineParser>
-#include <QCoreApplication>
 
 #include <algorithm>
 #include <memory>
@@ -70,15 +70,15 @@ QString listOr(const QStringList &words, const QString &none)
 std::optional<int> answerQuestion(const QCommandLineParser &parser)
 {
     Console console;
+    int status = Success;
     if (parser.isSet(Options::help())) {
         console.print(parser.helpText().trimmed());
     } else if (parser.isSet(Options::version())) {
-        console.print(QCoreApplication::applicationName() + QLatin1Char(' ') +
-                      QCoreApplication::applicationVersion());
+        status = printVersions(parser, console);
     } else {
         return std::nullopt;
     }
-    return console.flush() ? Success : BadInput;
+    return console.flush() ? status : BadInput;
 }
 
 int usageError(const Console &console, const QString &message)

@@ -9,7 +9,7 @@ QCommandLineOption Options::help()
 QCommandLineOption Options::version()
 {
     return {{QStringLiteral("v"), QStringLiteral("version")},
-            QStringLiteral("Print the version of the program.")};
+            QStringLiteral("Print the versions of the program and of the plug-ins.")};
 }
 
 QCommandLineOption Options::json()

@@ -8,7 +8,7 @@ namespace Options {
 /// --help: print the help text and stop.
 QCommandLineOption help();
 
-/// --version: print the program's version and stop.
+/// --version: print the versions of the program and of the plug-ins and stop.
 QCommandLineOption version();
 
 /// --json: results as JSON.

@@ -2,39 +2,20 @@
 
 #include "refhost/engine/JsonValue.h"
 #include "refhost/engine/OperationCatalog.h"
-#include "refhost/engine/PluginFolder.h"
 #include "refhost/runner/Console.h"
 #include "refhost/runner/ExitStatus.h"
-#include "refhost/runner/Options.h"
-
-#include <QCommandLineParser>
-#include <QCoreApplication>
-
-namespace {
-
-/// The plug-in files to load; empty, with a message, when none is given or found.
-QStringList chosenPlugins(const QCommandLineParser &options, const Console &console)
-{
-    if (options.isSet(Options::plugin()))
-        return options.values(Options::plugin());
-    const QStringList folders = pluginFolders(QCoreApplication::applicationDirPath());
-    QStringList files = pluginFiles(folders);
-    if (files.isEmpty()) {
-        console.complain(
-            QStringLiteral("no plug-in found in %1; expected one there or --plugin FILE")
-                .arg(folders.join(QLatin1String(" or "))));
-    }
-    return files;
-}
-
-} // namespace
+#include "refhost/runner/PluginChoice.h"
 
 int PluginCommand::run(const QCommandLineParser &options, const QStringList &arguments,
                        Console &console) const
 {
-    const QStringList files = chosenPlugins(options, console);
-    if (files.isEmpty())
+    const QStringList files = chosenPlugins(options);
+    if (files.isEmpty()) {
+        console.complain(
+            QStringLiteral("no plug-in found in %1; expected one there or --plugin FILE")
+                .arg(ownPluginFolders().join(QLatin1String(" or "))));
         return PluginNotLoaded;
+    }
     const OperationCatalog catalog(files);
     for (const Problem &failure : catalog.failures())
         console.complain(failure.toString());

@@ -533,8 +533,6 @@ void OprunTest::helps_data()
     QTest::newRow("program") << QStringList{"--help"} << "explain   Prints the summary";
     QTest::newRow("short") << QStringList{"-h"} << "explain   Prints the summary";
     QTest::newRow("command") << QStringList{"run", "--help"} << "--set <NAME=TEXT>";
-    QTest::newRow("version") << QStringList{"--version"} << "oprun 1.0.0\n";
-    QTest::newRow("version after a command") << QStringList{"run", "--version"} << "oprun 1.0.0\n";
 }
 
 void OprunTest::helps()

@@ -1,0 +1,31 @@
+#include "refhost/runner/Versions.h"
+
+#include "refhost/engine/LoadedPlugin.h"
+#include "refhost/runner/Console.h"
+#include "refhost/runner/ExitStatus.h"
+#include "refhost/runner/PluginChoice.h"
+
+#include "Operation.h"
+
+#include <QCoreApplication>
+
+int printVersions(const QCommandLineParser &options, Console &console)
+{
+    console.print(QStringLiteral("%1 %2, Qt %3")
+                      .arg(QCoreApplication::applicationName(),
+                           QCoreApplication::applicationVersion(), QLatin1String(qVersion())));
+    int status = Success;
+    const QStringList files = chosenPlugins(options);
+    for (const QString &file : files) {
+        const Result<LoadedPlugin> plugin = LoadedPlugin::load(file);
+        if (!plugin) {
+            console.complain(plugin.problem().toString());
+            status = PluginNotLoaded;
+            continue;
+        }
+        const PluginManifest &manifest = plugin.value().manifest();
+        console.print(QStringLiteral("%1 %2, %3, %4")
+                          .arg(manifest.id, manifest.version, manifest.name, file));
+    }
+    return status;
+}
