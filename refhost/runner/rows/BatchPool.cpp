@@ -61,15 +61,13 @@ bool BatchPool::takeBatch(RowBatch &batch)
     return true;
 }
 
-/// Keeps the outcome until its turn comes. The thread that finds the sink free calls it for all
-/// outcomes whose turn has come, so a slow sink keeps one thread busy and no other waiting.
+/// Keeps the outcome until its turn comes. The thread that has the outcome whose turn it is calls
+/// the sink, for all that follow as well; the others find no such outcome meanwhile, and go on. So
+/// a slow sink keeps one thread busy and no other waiting.
 void BatchPool::handOver(qint64 number, RowBatchOutcome outcome)
 {
     std::unique_lock lock(m_mutex);
     m_outcomes.emplace(number, std::move(outcome));
-    if (m_handsOver)
-        return;
-    m_handsOver = true;
     for (auto first = m_outcomes.find(m_next); first != m_outcomes.end() && !m_isStopped;
          first = m_outcomes.find(m_next)) {
         const RowBatchOutcome current = std::move(first->second);
@@ -81,5 +79,4 @@ void BatchPool::handOver(qint64 number, RowBatchOutcome outcome)
         m_isStopped = m_isStopped || !wantsMore;
         m_changed.notify_all();
     }
-    m_handsOver = false;
 }

@@ -51,7 +51,6 @@ private:
     std::map<qint64, RowBatchOutcome> m_outcomes; ///< whose turn has not come
     qint64 m_next = 0;                            ///< the number of the batch whose turn it is
     qint64 m_added = 0;
-    bool m_handsOver = false; ///< a thread is calling the sink
     bool m_isFinished = false;
     bool m_isStopped = false;
     std::vector<std::thread> m_threads;

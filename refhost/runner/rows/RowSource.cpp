@@ -134,7 +134,7 @@ RowBatch RowSource::batchOf(const QByteArray &lines)
         batch.lines = lines;
     if (batch.number == 0 && batch.lines.startsWith(byteOrderMark))
         batch.lines.remove(0, byteOrderMark.size());
-    m_line += batch.tooLong ? 1 : std::count(lines.begin(), lines.end(), '\n');
+    m_line += std::count(lines.begin(), lines.end(), '\n');
     m_rest.clear();
     return batch;
 }
