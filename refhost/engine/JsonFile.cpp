@@ -1,6 +1,7 @@
 #include "refhost/engine/JsonFile.h"
 
-#include <QFile>
+#include "refhost/engine/FileBytes.h"
+
 #include <QJsonDocument>
 #include <QJsonParseError>
 
@@ -42,25 +43,8 @@ Result<QJsonObject> parseJsonObject(const QByteArray &json, const QString &file,
 
 Result<QJsonObject> readJsonObject(const QString &path)
 {
-    if (path.isEmpty()) {
-        return Problem{Problem::Reason::UnreadableFile,
-                       {},
-                       {},
-                       QStringLiteral("an empty file name; expected a file")};
-    }
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return Problem{Problem::Reason::UnreadableFile,
-                       path,
-                       {},
-                       QStringLiteral("cannot be read (%1)").arg(file.errorString())};
-    }
-    const QByteArray json = file.readAll();
-    if (file.error() != QFileDevice::NoError) {
-        return Problem{Problem::Reason::UnreadableFile,
-                       path,
-                       {},
-                       QStringLiteral("cannot be read (%1)").arg(file.errorString())};
-    }
-    return parseJsonObject(json, path);
+    const Result<QByteArray> json = readFileBytes(path);
+    if (!json)
+        return json.problem();
+    return parseJsonObject(json.value(), path);
 }

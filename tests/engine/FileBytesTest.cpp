@@ -1,0 +1,99 @@
+#include "tests/support/QuietTest.h"
+
+#include "refhost/engine/FileBytes.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+
+class FileBytesTest : public QuietTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void writesAndReads();
+    void writesThroughLinks();
+    void cannotRead_data();
+    void cannotRead();
+    void cannotWrite_data();
+    void cannotWrite();
+};
+
+namespace {
+
+void addPaths(const QString &verb)
+{
+    QTest::addColumn<QString>("name"); // empty for no name at all
+    QTest::addColumn<QString>("message");
+    QTest::newRow("no name") << QString() << "an empty file name; expected a file";
+    QTest::newRow("no folder") << "none/a"
+                               << QString("cannot be %1 (No such file or directory)").arg(verb);
+}
+
+} // namespace
+
+void FileBytesTest::writesAndReads()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("文件");
+    QByteArray all;
+    for (int byte = 0; byte < 256; ++byte)
+        all += static_cast<char>(byte);
+    for (const QByteArray &bytes : {all, QByteArray(), QByteArray("\r\n"), all.repeated(10000)}) {
+        QVERIFY(!writeFileBytes(path, bytes));
+        const auto back = readFileBytes(path);
+        QVERIFY(back);
+        QCOMPARE(back.value(), bytes);
+    }
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList("文件"));
+}
+
+void FileBytesTest::writesThroughLinks()
+{
+    const QTemporaryDir folder;
+    QVERIFY(QFile::link("target", folder.filePath("link")));
+    for (const char *bytes : {"new", "newer"}) {
+        QVERIFY(!writeFileBytes(folder.filePath("link"), bytes));
+        QCOMPARE(readFileBytes(folder.filePath("target")).value(), QByteArray(bytes));
+        QVERIFY(QFileInfo(folder.filePath("link")).isSymLink());
+    }
+}
+
+void FileBytesTest::cannotRead_data()
+{
+    addPaths("read");
+}
+
+void FileBytesTest::cannotRead()
+{
+    QFETCH(QString, name);
+    const QTemporaryDir folder;
+    const auto bytes = readFileBytes(name.isEmpty() ? name : folder.filePath(name));
+    QVERIFY(!bytes);
+    QCOMPARE(bytes.problem().reason, Problem::Reason::UnreadableFile);
+    QCOMPARE(bytes.problem().file, name.isEmpty() ? name : folder.filePath(name));
+    QTEST(bytes.problem().message, "message");
+}
+
+void FileBytesTest::cannotWrite_data()
+{
+    addPaths("written");
+    QTest::newRow("folder") << "."
+                            << "cannot be written (it is no ordinary file)";
+}
+
+void FileBytesTest::cannotWrite()
+{
+    QFETCH(QString, name);
+    const QTemporaryDir folder;
+    const auto problem = writeFileBytes(name.isEmpty() ? name : folder.filePath(name), "x");
+    QVERIFY(problem);
+    QCOMPARE(problem->reason, Problem::Reason::UnwritableFile);
+    QCOMPARE(problem->file, name.isEmpty() ? name : folder.filePath(name));
+    QTEST(problem->message, "message");
+    QVERIFY(QDir(folder.path()).isEmpty());
+}
+
+QTEST_GUILESS_MAIN(FileBytesTest)
+
+#include "FileBytesTest.moc"
