@@ -1,3 +1,4 @@
+#include "tests/support/OprunFolder.h"
 #include "tests/support/QuietTest.h"
 
 #include <QFile>
@@ -5,7 +6,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include <memory>
@@ -48,17 +48,12 @@ private Q_SLOTS:
     void nothingRunsUntilAllIsChecked();
 
 private:
-    struct Outcome
-    {
-        int status = -1;
-        QString out;
-        QString err;
-    };
+    using Outcome = OprunFolder::Outcome;
 
     Outcome run(const QStringList &arguments, const QMap<QString, QString> &environment = {}) const;
     void write(const QString &name, const QByteArray &content) const;
 
-    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<OprunFolder> m_folder;
 };
 
 namespace {
@@ -88,8 +83,7 @@ const char warningTask[] = R"({
 
 void OprunTest::initTestCase()
 {
-    m_folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_folder->isValid());
+    m_folder = std::make_unique<OprunFolder>(OPRUN_FILE);
     write("task.json", sampleTask);
     write("warn.json", warningTask);
     write("任务.json", sampleTask);
@@ -98,24 +92,12 @@ void OprunTest::initTestCase()
 OprunTest::Outcome OprunTest::run(const QStringList &arguments,
                                   const QMap<QString, QString> &environment) const
 {
-    QProcess process;
-    process.setWorkingDirectory(m_folder->path());
-    QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
-    for (auto variable = environment.begin(); variable != environment.end(); ++variable)
-        variables.insert(variable.key(), variable.value());
-    process.setProcessEnvironment(variables);
-    process.start(OPRUN_FILE, arguments);
-    if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
-        return {-1, {}, process.errorString()};
-    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-            QString::fromUtf8(process.readAllStandardError())};
+    return m_folder->run(arguments, environment);
 }
 
 void OprunTest::write(const QString &name, const QByteArray &content) const
 {
-    QFile file(m_folder->filePath(name));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), qint64(content.size()));
+    QVERIFY(m_folder->write(name, content));
 }
 
 void OprunTest::runsTasks_data()
@@ -202,8 +184,7 @@ void OprunTest::refuses_data()
     row("option without its value", valid, {"run", "bad.json", "--set"},
         "Missing value after '--set'. Try \"oprun --help\".");
     row("no task", valid, {"run"}, "run: no argument; expected TASK. Try \"oprun --help\".");
-    row("two tasks", valid, {"run", "a", "b"},
-        "run: a b; expected TASK. Try \"oprun --help\".");
+    row("two tasks", valid, {"run", "a", "b"}, "run: a b; expected TASK. Try \"oprun --help\".");
     row("argument too many", valid, {"catalog", "x"},
         "catalog: x; expected none. Try \"oprun --help\".");
     row("unknown type to describe", valid, {"describe", "text.glue"},
