@@ -16,7 +16,14 @@ struct Problem
         UnknownChoice,   ///< a mode label outside the choice list
         UnfitValue,      ///< a value its variable or property cannot hold
         UnknownVariable, ///< a variable the task does not declare
-        PluginNotLoaded
+        PluginNotLoaded,
+        UnknownFormat,    ///< a file that is no packed task, or of a format there never was
+        NewerFormat,      ///< a packed task made by a program newer than this
+        WrongLength,      ///< a packed task that is cut off, or has something behind it
+        AlteredFile,      ///< a packed task whose checksum does not fit
+        MalformedContent, ///< a packed task that says what none can say
+        UnfitRecord,      ///< a record its operation does not read from end to end
+        BeyondJson        ///< something a JSON task cannot say exactly
     };
 
     Reason reason = Reason::UnfitValue;

@@ -1,10 +1,14 @@
 #include "refhost/engine/TaskReader.h"
 
+#include "refhost/engine/FileBytes.h"
 #include "refhost/engine/JsonFile.h"
 #include "refhost/engine/JsonValue.h"
 #include "refhost/engine/OperationCatalog.h"
 #include "refhost/engine/OperationSchema.h"
+#include "refhost/engine/PackedFrame.h"
 #include "refhost/engine/PropertyValue.h"
+#include "refhost/engine/TaskProblem.h"
+#include "refhost/engine/TaskUnpacker.h"
 #include "refhost/engine/VarTypeName.h"
 
 #include "Operation.h"
@@ -31,9 +35,9 @@ QString typeKey()
     return QStringLiteral("type");
 }
 
-QString expected(const QStringList &words)
+QString typePlace(const QString &place)
 {
-    return QStringLiteral("expected ") + words.join(QLatin1String(", "));
+    return place + QLatin1Char('.') + typeKey();
 }
 
 /// The first key of `json` that nobody reads.
@@ -42,27 +46,18 @@ std::optional<Problem> unknownKey(const QJsonObject &json, const QStringList &kn
 {
     for (auto member = json.begin(); member != json.end(); ++member) {
         if (!known.contains(member.key())) {
-            return at(
-                place, Reason::UnknownKey,
-                QStringLiteral("unknown key %1; %2").arg(jsonText(member.key()), expected(known)));
+            return at(place, Reason::UnknownKey,
+                      QStringLiteral("unknown key %1; %2")
+                          .arg(jsonText(member.key()), expectedWords(known)));
         }
     }
     return std::nullopt;
 }
 
-Problem unknownType(const QString &place, const QJsonValue &found, const QStringList &known)
-{
-    const bool missing = found.isUndefined();
-    return at(place + QLatin1Char('.') + typeKey(),
-              missing ? Reason::MissingKey : Reason::UnknownType,
-              QStringLiteral("%1; %2").arg(missing ? QStringLiteral("missing") : jsonText(found),
-                                           expected(known)));
-}
-
 Result<TaskVariable> readVariable(const QString &name, const QJsonValue &json, const QString &place)
 {
     if (name.isEmpty())
-        return at(place, Reason::UnfitValue, QStringLiteral("an empty name; expected a name"));
+        return emptyName(place);
     if (!json.isObject())
         return wrongKind(place, json, QStringLiteral("an object with \"type\" and \"value\""));
     const QJsonObject settings = json.toObject();
@@ -72,7 +67,7 @@ Result<TaskVariable> readVariable(const QString &name, const QJsonValue &json, c
     const QJsonValue typeWord = settings.value(typeKey());
     TaskVariable variable{name, varTypeFromName(typeWord.toString()), {}};
     if (variable.type == VarType::None)
-        return unknownType(place, typeWord, varTypeNames());
+        return unknownType(typePlace(place), typeWord, varTypeNames());
     if (settings.contains(valueKey)) {
         const Result<QVariant> start = variantFromJson(settings.value(valueKey), variable.type);
         if (!start)
@@ -110,7 +105,7 @@ std::optional<Problem> applySettings(Operation &step, const QJsonObject &setting
         if (!property) {
             return at(propertyPlace, Reason::UnknownKey,
                       QStringLiteral("%1 has no such property; %2")
-                          .arg(step.typeId(), expected(schema.propertyNames())));
+                          .arg(step.typeId(), expectedWords(schema.propertyNames())));
         }
         const Result<QVariant> value = propertyFromJson(member.value(), *property);
         if (!value)
@@ -129,15 +124,25 @@ TaskReader::TaskReader(const OperationCatalog &catalog)
 
 Result<Task> TaskReader::readFile(const QString &path) const
 {
-    const Result<QJsonObject> json = readJsonObject(path);
-    if (!json)
-        return json.problem();
-    Result<Task> task = read(json.value());
+    const Result<QByteArray> bytes = readFileBytes(path);
+    if (!bytes)
+        return bytes.problem();
+    Result<Task> task = readBytes(bytes.value());
     if (task)
         return task;
     Problem problem = task.problem();
     problem.file = path;
     return problem;
+}
+
+Result<Task> TaskReader::readBytes(const QByteArray &bytes) const
+{
+    if (isPackedTask(bytes))
+        return unpackTask(bytes, m_catalog);
+    const Result<QJsonObject> json = parseJsonObject(bytes, {});
+    if (!json)
+        return json.problem();
+    return read(json.value());
 }
 
 Result<Task> TaskReader::read(const QJsonObject &json) const
@@ -178,7 +183,7 @@ Result<std::unique_ptr<Operation>> TaskReader::readStep(const QJsonValue &json,
     const QJsonValue typeId = settings.take(typeKey());
     const CatalogEntry *const entry = m_catalog.find(typeId.toString());
     if (!entry)
-        return unknownType(place, typeId, m_catalog.typeIds());
+        return unknownType(typePlace(place), typeId, m_catalog.typeIds());
     std::unique_ptr<Operation> step(entry->prototype->clone(nullptr));
     if (const auto problem = applySettings(*step, settings, place))
         return *problem;

@@ -3,6 +3,7 @@
 #include "refhost/engine/Result.h"
 #include "refhost/engine/Task.h"
 
+#include <QByteArray>
 #include <QJsonObject>
 #include <QString>
 
@@ -11,24 +12,27 @@
 
 class OperationCatalog;
 
-/// Reads tasks from JSON, with the steps of a catalogue:
+/// Reads tasks, with the steps of a catalogue, from JSON:
 ///
 ///     { "variables": { "line": {"type": "string", "value": "a;b"}, "part": {"type": "string"} },
 ///       "steps": [ {"type": "text.append", "sourceText": "$line", "resultVar": "part"} ] }
 ///
-/// A task is read in full or not at all; the problem names the first place that is wrong.
+/// or from the packed form that `packTask` writes. A task is read in full or not at all; the
+/// problem names the first place that is wrong.
 class TaskReader
 {
 public:
     /// The catalogue has to outlive the reader and the plug-ins the tasks it reads.
     explicit TaskReader(const OperationCatalog &catalog);
 
+    /// Reads a file, which may have either form.
     Result<Task> readFile(const QString &path) const;
 
     /// Reads a task from an object already parsed; problems name no file.
     Result<Task> read(const QJsonObject &json) const;
 
 private:
+    Result<Task> readBytes(const QByteArray &bytes) const;
     std::optional<Problem> readSteps(const QJsonValue &json, const QString &place,
                                      Task &task) const;
     Result<std::unique_ptr<Operation>> readStep(const QJsonValue &json, const QString &place) const;

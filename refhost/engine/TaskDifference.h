@@ -1,0 +1,12 @@
+#pragma once
+
+#include "refhost/engine/Problem.h"
+
+#include <optional>
+
+class Task;
+
+/// The first thing in `task` that is not the very same in `back`, which is the task as it comes
+/// back from JSON: a value, a property, or what else a step has in its record. The host's own state
+/// of a step is left out of it. The order of the variables, which means nothing, may differ.
+std::optional<Problem> lostInJson(const Task &task, const Task &back);

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "refhost/engine/Problem.h"
+
+#include <QJsonValue>
+#include <QString>
+#include <QStringList>
+
+// What readers and writers of tasks say alike, whatever the form of the task.
+
+/// "variables.line": where the variable called `name` stands.
+QString variablePlace(const QString &name);
+
+/// "steps[3]": where the step at `index` stands, counted from 0.
+QString stepPlace(int index);
+
+/// "expected int, double": the end of a message.
+QString expectedWords(const QStringList &words);
+
+/// That a variable at `place` has no name.
+Problem emptyName(const QString &place);
+
+/// That `found`, at `place`, names none of the `known` types, or is missing.
+Problem unknownType(const QString &place, const QJsonValue &found, const QStringList &known);
