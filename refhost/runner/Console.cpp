@@ -27,6 +27,11 @@ void Console::printJson(const QJsonObject &json)
     m_results += QJsonDocument(json).toJson(QJsonDocument::Indented);
 }
 
+void Console::printBytes(const QByteArray &bytes)
+{
+    m_results += bytes;
+}
+
 void Console::note(const QString &line) const
 {
     writeAll(stderr, line.toUtf8() + '\n');

@@ -8,7 +8,9 @@
 #include "refhost/runner/ExitStatus.h"
 #include "refhost/runner/ExplainCommand.h"
 #include "refhost/runner/Options.h"
+#include "refhost/runner/PackCommand.h"
 #include "refhost/runner/RunCommand.h"
+#include "refhost/runner/UnpackCommand.h"
 #include "refhost/runner/Versions.h"
 
 #include <QCommandLineParser>
@@ -29,6 +31,8 @@ Commands allCommands()
     commands.push_back(std::make_unique<DescribeCommand>());
     commands.push_back(std::make_unique<RunCommand>());
     commands.push_back(std::make_unique<ExplainCommand>());
+    commands.push_back(std::make_unique<PackCommand>());
+    commands.push_back(std::make_unique<UnpackCommand>());
     commands.push_back(std::make_unique<ExamplesCommand>());
     commands.push_back(std::make_unique<DocsCommand>());
     return commands;

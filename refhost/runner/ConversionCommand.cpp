@@ -1,0 +1,43 @@
+#include "refhost/runner/ConversionCommand.h"
+
+#include "refhost/engine/FileBytes.h"
+#include "refhost/engine/TaskReader.h"
+#include "refhost/runner/Console.h"
+#include "refhost/runner/ExitStatus.h"
+
+namespace {
+
+int complain(const Problem &problem, const Console &console)
+{
+    console.complain(problem.toString());
+    return BadInput;
+}
+
+} // namespace
+
+QStringList ConversionCommand::arguments() const
+{
+    return {QStringLiteral("TASK"), QStringLiteral("OUT")};
+}
+
+int ConversionCommand::runWith(const OperationCatalog &catalog, const QCommandLineParser &options,
+                               const QStringList &arguments, Console &console) const
+{
+    Q_UNUSED(options)
+    const QString &in = arguments.at(0);
+    const QString &out = arguments.at(1);
+    const Result<Task> task = TaskReader(catalog).readFile(in);
+    if (!task)
+        return complain(task.problem(), console);
+    const Result<QByteArray> bytes = convert(task.value(), catalog);
+    if (!bytes) {
+        Problem problem = bytes.problem();
+        problem.file = in;
+        return complain(problem, console);
+    }
+    if (out == QLatin1String("-"))
+        console.printBytes(bytes.value());
+    else if (const auto problem = writeFileBytes(out, bytes.value()))
+        return complain(*problem, console);
+    return Success;
+}
