@@ -37,7 +37,10 @@ std::optional<Problem> OutputFile::open()
     if (isStandardOutput())
         return std::nullopt;
     if (m_name.isEmpty())
-        return unwritable(QStringLiteral("an empty file name"));
+        return Problem{Problem::Reason::UnwritableFile,
+                       {},
+                       {},
+                       QStringLiteral("an empty file name; expected a file")};
     const QFileInfo there(m_name);
     // A device or a pipe is written to, not replaced.
     if (there.exists() && !there.isFile() && !there.isDir())
@@ -73,8 +76,8 @@ std::optional<Problem> OutputFile::commit()
     if (isStandardOutput())
         return std::nullopt;
     auto *const whole = qobject_cast<QSaveFile *>(m_file.get());
-    const bool done = whole ? whole->commit() : m_file->flush();
-    if (!done)
+    // Committing flushes, too, but keeps to itself whether that went well.
+    if (!m_file->flush() || (whole && !whole->commit()))
         return unwritable(m_file->errorString());
     return std::nullopt;
 }

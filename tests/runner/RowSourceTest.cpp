@@ -131,7 +131,7 @@ void RowSourceTest::refuses_data()
     QTest::newRow("folder") << m_folder.path()
                             << m_folder.path() + ": cannot be read (file to open is a directory)";
     QTest::newRow("empty name") << ""
-                                << "cannot be read (an empty file name)";
+                                << "an empty file name; expected a file";
 }
 
 void RowSourceTest::refuses()

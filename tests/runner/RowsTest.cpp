@@ -233,7 +233,7 @@ void RowsTest::refuses_data()
         "none/out: cannot be written (No such file or directory)");
     row("errors in no folder", {"--each", "rows", "--errors", "none/e"},
         "none/e: cannot be written (No such file or directory)");
-    row("empty out", {"--each", "rows", "--out", ""}, "cannot be written (an empty file name)");
+    row("empty out", {"--each", "rows", "--out", ""}, "an empty file name; expected a file");
     row("empty errors", {"--each", "rows", "--errors", ""},
         "--errors: an empty file name; expected a file");
     row("errors where the lines go", {"--each", "rows", "--out", "o", "--errors", "./o"},

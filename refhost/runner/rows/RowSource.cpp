@@ -47,7 +47,10 @@ QString RowSource::name() const
 std::optional<Problem> RowSource::open()
 {
     if (m_name.isEmpty())
-        return unreadable(QStringLiteral("an empty file name"));
+        return Problem{Problem::Reason::UnreadableFile,
+                       {},
+                       {},
+                       QStringLiteral("an empty file name; expected a file")};
     constexpr int standardInput = 0;
     const QIODevice::OpenMode mode = QIODevice::ReadOnly | QIODevice::Unbuffered;
     m_file.setFileName(m_name);
