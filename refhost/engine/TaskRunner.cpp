@@ -6,6 +6,8 @@
 #include "Operation.h"
 #include "VariableScope.h"
 
+#include <QElapsedTimer>
+
 namespace {
 
 StepReport runStep(Operation &step, VariableScope &scope)
@@ -13,9 +15,12 @@ StepReport runStep(Operation &step, VariableScope &scope)
     MessageCapture capture;
     scope.forgetWrites();
     step.setVariableScope(&scope);
-    step.doOperation();
-    step.setVariableScope(nullptr);
     StepReport report;
+    QElapsedTimer clock;
+    clock.start();
+    step.doOperation();
+    report.nanoseconds = clock.nsecsElapsed();
+    step.setVariableScope(nullptr);
     report.step = &step;
     report.written = scope.writtenNames();
     report.warnings = capture.takeLines();

@@ -15,6 +15,7 @@ struct StepReport
     const Operation *step = nullptr; ///< belongs to the task
     QStringList written;             ///< the variables it wrote; their values are in the scope
     QStringList warnings;            ///< the lines it logged
+    qint64 nanoseconds = 0;          ///< what its `doOperation` took
 };
 
 /// Runs the steps of `task` in order on `scope`, and calls `report` after each. The steps keep no

@@ -8,6 +8,7 @@
 #include "refhost/runner/OneLine.h"
 #include "refhost/runner/Options.h"
 #include "refhost/runner/RunOptions.h"
+#include "refhost/runner/StepTrace.h"
 #include "refhost/runner/rows/RowRun.h"
 
 #include "Operation.h"
@@ -16,23 +17,6 @@
 #include <QJsonObject>
 
 namespace {
-
-QString valueText(const VariableScope &scope, const QString &name)
-{
-    return jsonText(variantToJson(scope.get(name)));
-}
-
-void traceStep(const StepReport &report, const VariableScope &scope, const Console &console)
-{
-    const QString number = stepNumber(report.index);
-    const QString indent(number.size(), QLatin1Char(' '));
-    console.note(number + oneLine(report.step->toString()));
-    console.note(indent + oneLine(report.step->description()));
-    for (const QString &name : report.written)
-        console.note(indent + oneLine(name) + QStringLiteral(" = ") + valueText(scope, name));
-    for (const QString &line : report.warnings)
-        console.note(indent + QStringLiteral("warning: ") + oneLine(line));
-}
 
 void complainOfStep(const StepReport &report, const QString &file, const Console &console)
 {
@@ -66,10 +50,11 @@ int runOnce(const Task &task, const QCommandLineParser &options, const QString &
 {
     bool warned = false;
     VariableScope scope = task.startScope();
+    StepTrace trace(scope);
     runTask(task, scope, [&](const StepReport &report) {
         warned = warned || !report.warnings.isEmpty();
         if (options.isSet(RunOptions::trace()))
-            traceStep(report, scope, console);
+            trace.show(report, scope, console);
         else
             complainOfStep(report, file, console);
     });
