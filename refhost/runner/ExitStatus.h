@@ -4,6 +4,7 @@
 enum ExitStatus : int {
     Success = 0,
     Warned = 1,          ///< a run logged a warning, and was asked to be strict
+    Found = 1,           ///< a task was checked, and something in it looks like a mistake
     Differs = 1,         ///< a worked example gave something else than it says
     RowFailed = 1,       ///< a row failed
     BadInput = 2,        ///< the command line, a file or an output cannot be used

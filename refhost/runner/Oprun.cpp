@@ -1,6 +1,7 @@
 #include "refhost/runner/Oprun.h"
 
 #include "refhost/runner/CatalogCommand.h"
+#include "refhost/runner/CheckCommand.h"
 #include "refhost/runner/Console.h"
 #include "refhost/runner/DescribeCommand.h"
 #include "refhost/runner/DocsCommand.h"
@@ -31,6 +32,7 @@ Commands allCommands()
     commands.push_back(std::make_unique<DescribeCommand>());
     commands.push_back(std::make_unique<RunCommand>());
     commands.push_back(std::make_unique<ExplainCommand>());
+    commands.push_back(std::make_unique<CheckCommand>());
     commands.push_back(std::make_unique<PackCommand>());
     commands.push_back(std::make_unique<UnpackCommand>());
     commands.push_back(std::make_unique<ExamplesCommand>());

@@ -1,0 +1,78 @@
+#include "refhost/engine/check/CheckRule.h"
+
+#include "refhost/engine/JsonValue.h"
+#include "refhost/engine/VarTypeName.h"
+#include "refhost/engine/check/NearName.h"
+#include "refhost/engine/check/TaskFacts.h"
+
+Finding findingAt(const Setting &setting, Mistake mistake, Severity severity, const Advice &advice)
+{
+    Finding finding;
+    finding.mistake = mistake;
+    finding.severity = severity;
+    finding.step = setting.step;
+    finding.typeId = setting.typeId;
+    finding.property = setting.schema.name;
+    finding.text = setting.text();
+    finding.message = advice.message;
+    finding.consequence = advice.consequence;
+    finding.remedy = advice.remedy;
+    finding.meant = advice.meant;
+    return finding;
+}
+
+QString quoted(const QString &text)
+{
+    constexpr int limit = 60;
+    return jsonText(text.size() > limit ? text.left(limit - 1) + QStringLiteral("…") : text);
+}
+
+QString anyOf(const QStringList &texts)
+{
+    QStringList words;
+    for (const QString &text : texts)
+        words.append(quoted(text));
+    const QString last = words.isEmpty() ? QString() : words.takeLast();
+    if (words.isEmpty())
+        return last;
+    return QStringLiteral("%1 or %2").arg(words.join(QLatin1String(", ")), last);
+}
+
+bool namesType(const QString &words, VarType type)
+{
+    const QStringList list = words.split(QLatin1Char(','));
+    for (const QString &word : list) {
+        const VarType named = varTypeFromName(word);
+        const bool isScalar = word == QLatin1String("scalar");
+        if (isScalar && (type == VarType::Int || type == VarType::Double))
+            return true;
+        if (!isScalar && (named == VarType::None || named == type))
+            return true;
+    }
+    return false;
+}
+
+QString remedyForName(const QString &name, const QString &sign, const NearName &near)
+{
+    const QString meant = quoted(sign + near.name);
+    switch (near.difference) {
+    case NearName::Difference::Space:
+        return QStringLiteral("write %1: white space is part of a name").arg(meant);
+    case NearName::Difference::Braces:
+        return QStringLiteral("write %1, without braces").arg(meant);
+    case NearName::Difference::Case:
+        return QStringLiteral("write %1: capital and small letters differ").arg(meant);
+    case NearName::Difference::Letters:
+        return QStringLiteral("declare %1, or write %2").arg(quoted(name), meant);
+    case NearName::Difference::Tail:
+        return QStringLiteral(
+                   "write %1 alone, and put what follows it behind it in a step of its own")
+            .arg(meant);
+    case NearName::Difference::Far:
+        break;
+    }
+    const QString declare = QStringLiteral("declare ") + quoted(name);
+    if (sign.isEmpty())
+        return declare;
+    return declare + QStringLiteral("; a text that begins with \"$\" has to come from a variable");
+}

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// A kind of mistake in a task.
+enum class Mistake {
+    UndeclaredVariable, ///< a name to read from that the task does not declare
+    DottedName,         ///< "$a.b" where a variable is called "a.b"
+    PathWithoutList,    ///< a member of something that is no list
+    UnknownPath,        ///< a member that lists do not have
+    EmptyPath,          ///< a reference that ends in "."
+    ReferenceType,      ///< a reference to a variable of a type that is not asked for
+    NotANumber,         ///< a numeric operand that is none
+    EmptyNumber,
+    NumberAsText,   ///< a text that changes since it travels as a number
+    TypedEscape,    ///< a typed "\n" where a line feed was meant
+    LoneDollar,     ///< "$" alone
+    DollarInText,   ///< "$name" amid a text
+    MissingDollar,  ///< a text that is the name of a variable nobody reads
+    NameWithDollar, ///< "$name" where the bare name belongs
+    UndeclaredResult,
+    EmptyResult,
+    ResultType,
+    EmptyInput,
+    InputType,
+    UnknownMode,
+    HiddenSetting, ///< a setting that the editor does not show
+    ReadsEmpty,    ///< a variable that is read and has no value ever
+    ReadBeforeWrite,
+    OverwrittenUnread,
+    UnusedVariable
+};
+
+/// How bad it is.
+enum class Severity {
+    Error,   ///< an operand stands for nothing, or the step does nothing or logs a warning
+    Warning, ///< the task runs, but probably not as it was meant
+    Note     ///< worth a look
+};
+
+/// One likely mistake in a task: what stands where, what comes of it and what helps.
+struct Finding
+{
+    Mistake mistake = Mistake::UndeclaredVariable;
+    Severity severity = Severity::Error;
+    int step = -1;       ///< place of the step, counted from 0; -1 for the task itself
+    QString typeId;      ///< the step's, empty for the task
+    QString property;    ///< of the step; for the task the variable
+    QString text;        ///< the value of the property as it is written
+    QString message;     ///< what is wrong, in one line
+    QString consequence; ///< what will happen
+    QString remedy;      ///< what to do
+    QString meant;       ///< the variable that was probably meant, if one was
+
+    /// Where it is, for instance "steps[2] text.append sourceText" or "variables.line".
+    QString place() const;
+};
+
+/// The word for a kind of mistake, such as "undeclared-variable". It never changes.
+QString mistakeId(Mistake mistake);
+
+/// The words of all kinds, in their order.
+QStringList mistakeIds();
+
+/// "error", "warning" or "note".
+QString severityName(Severity severity);

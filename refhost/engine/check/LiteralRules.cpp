@@ -1,0 +1,161 @@
+#include "refhost/engine/check/LiteralRules.h"
+
+#include "refhost/engine/check/NearName.h"
+#include "refhost/engine/check/TaskFacts.h"
+
+#include <QRegularExpression>
+
+namespace {
+
+using MaybeFinding = std::optional<Finding>;
+
+bool isLiteral(const Setting &setting, PropertyRole role)
+{
+    return setting.role == role && !setting.operand.isReference;
+}
+
+MaybeFinding emptyNumber(const Setting &setting, const TaskFacts &facts)
+{
+    Q_UNUSED(facts)
+    if (!isLiteral(setting, PropertyRole::Number) || !setting.text().isEmpty())
+        return std::nullopt;
+    return findingAt(setting, Mistake::EmptyNumber, Severity::Warning,
+                     {QStringLiteral("no number is given"),
+                      QStringLiteral("the step takes what it takes without one, or does nothing"),
+                      QStringLiteral("write the number, \"0\" where none is needed")});
+}
+
+MaybeFinding notANumber(const Setting &setting, const TaskFacts &facts)
+{
+    const QString text = setting.text();
+    if (!isLiteral(setting, PropertyRole::Number) || text.isEmpty() || literalNumber(text))
+        return std::nullopt;
+    const QString remedy =
+        facts.variable(text)
+            ? QStringLiteral("write %1 for the variable").arg(quoted(QLatin1Char('$') + text))
+            : QStringLiteral("write digits, with \".\" before decimals and no group separators");
+    return findingAt(setting, Mistake::NotANumber, Severity::Error,
+                     {quoted(text) + QStringLiteral(" is no number"),
+                      QStringLiteral("the step goes on without a number, or does nothing"), remedy,
+                      facts.variable(text) ? text : QString()});
+}
+
+/// Where a number is welcome the way it is written does not matter.
+bool asksForNumbers(const PropertySchema &schema)
+{
+    return !schema.restriction.isEmpty() && (namesType(schema.restriction, VarType::Int) ||
+                                             namesType(schema.restriction, VarType::Double));
+}
+
+MaybeFinding numberAsText(const Setting &setting, const TaskFacts &facts)
+{
+    Q_UNUSED(facts)
+    if (!isLiteral(setting, PropertyRole::Text) || asksForNumbers(setting.schema))
+        return std::nullopt;
+    const auto number = literalNumber(setting.text());
+    const QString became = number ? textOfValue(*number) : setting.text();
+    if (became == setting.text())
+        return std::nullopt;
+    return findingAt(setting, Mistake::NumberAsText, Severity::Warning,
+                     {QStringLiteral("%1 travels as a number").arg(quoted(setting.text())),
+                      QStringLiteral("the operand becomes the text ") + quoted(became),
+                      QStringLiteral("keep %1 in a string variable and refer to that")
+                          .arg(quoted(setting.text()))});
+}
+
+/// Whether the text is a file name in which backslashes are at home.
+bool isWindowsPath(const QString &text)
+{
+    static const QRegularExpression path(QStringLiteral(R"(^([A-Za-z]:\\|\\\\[^\\]+\\))"));
+    return path.match(text).hasMatch();
+}
+
+MaybeFinding typedEscape(const Setting &setting, const TaskFacts &facts)
+{
+    Q_UNUSED(facts)
+    static const QRegularExpression escape(QStringLiteral(R"(\\([ntr\\"]|u[0-9A-Fa-f]{4}))"));
+    const QString text = setting.text();
+    if (!isLiteral(setting, PropertyRole::Text) || isWindowsPath(text))
+        return std::nullopt;
+    const QRegularExpressionMatch match = escape.match(text);
+    if (!match.hasMatch())
+        return std::nullopt;
+    const QString typed = match.captured();
+    return findingAt(
+        setting, Mistake::TypedEscape, Severity::Warning,
+        {typed + QStringLiteral(" is typed into the text"),
+         QStringLiteral("the backslash stays in it: operands have no escape sequences"),
+         QStringLiteral("type the character itself; in a task file it is \"%1\"").arg(typed)});
+}
+
+MaybeFinding loneDollar(const Setting &setting, const TaskFacts &facts)
+{
+    Q_UNUSED(facts)
+    if (!isLiteral(setting, PropertyRole::Text) || setting.text() != QLatin1String("$"))
+        return std::nullopt;
+    return findingAt(setting, Mistake::LoneDollar, Severity::Note,
+                     {QStringLiteral("\"$\" names no variable"),
+                      QStringLiteral("the operand is the text \"$\""),
+                      QStringLiteral("write a name behind it; if the sign is meant, keep it in a "
+                                     "variable")});
+}
+
+/// A "$name" or "${name}" within a text.
+struct InnerReference
+{
+    QString text;
+    QString name;
+};
+
+/// The first one in the text that has the name of a variable, empty without one.
+InnerReference referenceWithin(const QString &text, const QStringList &names)
+{
+    for (int dollar = text.indexOf(QLatin1Char('$')); dollar >= 0;
+         dollar = text.indexOf(QLatin1Char('$'), dollar + 1)) {
+        const bool braced = text.midRef(dollar + 1).startsWith(QLatin1Char('{'));
+        const int start = dollar + (braced ? 2 : 1);
+        const int size = leadingNameSize(QStringView(text).mid(start), names);
+        const bool closed = !braced || text.midRef(start + size).startsWith(QLatin1Char('}'));
+        const int end = start + size + (braced ? 1 : 0);
+        if (size > 0 && closed)
+            return {text.mid(dollar, end - dollar), text.mid(start, size)};
+    }
+    return {};
+}
+
+MaybeFinding dollarInText(const Setting &setting, const TaskFacts &facts)
+{
+    if (!isLiteral(setting, PropertyRole::Text))
+        return std::nullopt;
+    const InnerReference inner = referenceWithin(setting.text(), facts.variableNames());
+    if (inner.name.isEmpty())
+        return std::nullopt;
+    return findingAt(setting, Mistake::DollarInText, Severity::Note,
+                     {quoted(inner.text) + QStringLiteral(" stands within a text"),
+                      QStringLiteral("it stays as it is: an operand is a reference as a whole or "
+                                     "not at all"),
+                      QStringLiteral("refer to the variable in an operand of its own, and put the "
+                                     "texts together step by step"),
+                      inner.name});
+}
+
+MaybeFinding missingDollar(const Setting &setting, const TaskFacts &facts)
+{
+    const QString text = setting.text();
+    if (!isLiteral(setting, PropertyRole::Text) || !facts.variable(text) ||
+        !facts.readers(text).isEmpty())
+        return std::nullopt;
+    return findingAt(
+        setting, Mistake::MissingDollar, Severity::Note,
+        {QStringLiteral("%1 is the name of a variable that nobody reads").arg(quoted(text)),
+         QStringLiteral("the operand is that name, not the value of the variable"),
+         QStringLiteral("write %1").arg(quoted(QLatin1Char('$') + text)), text});
+}
+
+} // namespace
+
+QList<SettingRule> literalRules()
+{
+    return {emptyNumber, notANumber,   numberAsText, typedEscape,
+            loneDollar,  dollarInText, missingDollar};
+}

@@ -1,0 +1,154 @@
+#include "refhost/engine/check/NameRules.h"
+
+#include "refhost/engine/VarTypeName.h"
+#include "refhost/engine/check/NearName.h"
+#include "refhost/engine/check/TaskFacts.h"
+
+namespace {
+
+using MaybeFinding = std::optional<Finding>;
+
+bool isName(const Setting &setting)
+{
+    return setting.role == PropertyRole::Input || setting.role == PropertyRole::Result;
+}
+
+QString nothingWritten()
+{
+    return QStringLiteral("nothing is written, as a rule with a warning");
+}
+
+QString nothingRead()
+{
+    return QStringLiteral("the step finds nothing to read, as a rule with a warning");
+}
+
+MaybeFinding emptyName(const Setting &setting, const TaskFacts &facts)
+{
+    Q_UNUSED(facts)
+    if (!isName(setting) || !setting.text().isEmpty())
+        return std::nullopt;
+    if (setting.role == PropertyRole::Result) {
+        return findingAt(setting, Mistake::EmptyResult, Severity::Error,
+                         {QStringLiteral("no result variable is named"),
+                          QStringLiteral("the step does nothing, as a rule with a warning"),
+                          QStringLiteral("name a variable to receive the result")});
+    }
+    return findingAt(setting, Mistake::EmptyInput, Severity::Warning,
+                     {QStringLiteral("no variable is named"),
+                      QStringLiteral("the step has nothing to read"),
+                      QStringLiteral("name the variable to read")});
+}
+
+/// Whether the name is written as a reference, and no variable happens to be called just so.
+bool isReference(const Setting &setting, const TaskFacts &facts)
+{
+    return isName(setting) && readOperand(setting.text()).isReference &&
+           !facts.variable(setting.text());
+}
+
+MaybeFinding nameWithDollar(const Setting &setting, const TaskFacts &facts)
+{
+    if (!isReference(setting, facts))
+        return std::nullopt;
+    const QString bare = setting.text().mid(1);
+    const QString write = QStringLiteral("write ") + quoted(bare);
+    return findingAt(setting, Mistake::NameWithDollar, Severity::Error,
+                     {QStringLiteral("%1 is no name: here a variable is named without \"$\"")
+                          .arg(quoted(setting.text())),
+                      setting.role == PropertyRole::Result ? nothingWritten() : nothingRead(),
+                      facts.variable(bare) ? write : write + QStringLiteral(" and declare it"),
+                      bare});
+}
+
+MaybeFinding undeclaredName(const Setting &setting, const TaskFacts &facts)
+{
+    const QString name = setting.text();
+    if (!isName(setting) || name.isEmpty() || facts.variable(name) || isReference(setting, facts))
+        return std::nullopt;
+    const bool isResult = setting.role == PropertyRole::Result;
+    const NearName near = nearName(name, facts.variableNames());
+    return findingAt(setting, isResult ? Mistake::UndeclaredResult : Mistake::UndeclaredVariable,
+                     Severity::Error,
+                     {quoted(name) + QStringLiteral(" is no variable"),
+                      isResult ? nothingWritten() : nothingRead(),
+                      remedyForName(name, QString(), near), near.name});
+}
+
+/// The variable named, if it is of a type that the editor would not offer; otherwise null.
+const TaskVariable *unfitVariable(const Setting &setting, const TaskFacts &facts)
+{
+    const TaskVariable *const variable = facts.variable(setting.text());
+    const QString &words = setting.schema.restriction;
+    const bool fits = !variable || words.isEmpty() || namesType(words, variable->type);
+    return fits ? nullptr : variable;
+}
+
+QString wantedType(const Setting &setting)
+{
+    if (setting.schema.restriction == QLatin1String("scalar"))
+        return QStringLiteral("int or double");
+    return setting.schema.restriction;
+}
+
+Advice typeAdvice(const Setting &setting, const TaskVariable &variable, const QString &consequence)
+{
+    const QString wanted = wantedType(setting);
+    return {QStringLiteral("%1 is declared as %2, not as %3")
+                .arg(quoted(variable.name), varTypeName(variable.type), wanted),
+            consequence,
+            QStringLiteral("name a variable of type %1, or declare %2 as that")
+                .arg(wanted, quoted(variable.name))};
+}
+
+MaybeFinding inputType(const Setting &setting, const TaskFacts &facts)
+{
+    const TaskVariable *const variable = unfitVariable(setting, facts);
+    if (setting.role != PropertyRole::Input || !variable)
+        return std::nullopt;
+    return findingAt(setting, Mistake::InputType, Severity::Error,
+                     typeAdvice(setting, *variable,
+                                QStringLiteral("the step cannot read it, as a rule with a "
+                                               "warning")));
+}
+
+/// A number can be written in several forms; empty where it cannot be written at all.
+QString formOfNumber(VarType type)
+{
+    switch (type) {
+    case VarType::Int:
+        return QStringLiteral("the number is stored as a whole number");
+    case VarType::Double:
+        return QStringLiteral("the number is stored with its decimals");
+    case VarType::String:
+        return QStringLiteral("the number is stored as a text");
+    case VarType::Bool:
+        return QStringLiteral("the number is stored as true, or as false if it is 0");
+    case VarType::Table:
+        return QStringLiteral("the number is lost and the table is emptied");
+    case VarType::List:
+    case VarType::None:
+        break;
+    }
+    return {};
+}
+
+MaybeFinding resultType(const Setting &setting, const TaskFacts &facts)
+{
+    const TaskVariable *const variable = unfitVariable(setting, facts);
+    if (setting.role != PropertyRole::Result || !variable)
+        return std::nullopt;
+    const bool isNumber = namesType(setting.schema.restriction, VarType::Int) ||
+                          namesType(setting.schema.restriction, VarType::Double);
+    const QString form = isNumber ? formOfNumber(variable->type) : QString();
+    return findingAt(setting, Mistake::ResultType,
+                     form.isEmpty() ? Severity::Error : Severity::Warning,
+                     typeAdvice(setting, *variable, form.isEmpty() ? nothingWritten() : form));
+}
+
+} // namespace
+
+QList<SettingRule> nameRules()
+{
+    return {emptyName, nameWithDollar, undeclaredName, inputType, resultType};
+}

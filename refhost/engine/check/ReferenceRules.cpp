@@ -1,0 +1,203 @@
+#include "refhost/engine/check/ReferenceRules.h"
+
+#include "refhost/engine/VarTypeName.h"
+#include "refhost/engine/check/NearName.h"
+#include "refhost/engine/check/TaskFacts.h"
+
+namespace {
+
+using MaybeFinding = std::optional<Finding>;
+
+QStringList listMembers()
+{
+    return {QStringLiteral("Count"), QStringLiteral("Rows"), QStringLiteral("Columns"),
+            QStringLiteral("Items")};
+}
+
+bool holdsElements(VarType type)
+{
+    return type == VarType::List || type == VarType::Table;
+}
+
+/// What comes of an operand that stands for nothing.
+QString nothingThere(const Setting &setting)
+{
+    if (setting.role == PropertyRole::Text)
+        return QStringLiteral("the operand counts as empty text");
+    return QStringLiteral(
+        "the operand is no number: the step goes on without one, or does nothing");
+}
+
+/// Whether "$a.b" was written for a variable called "a.b", which cannot be referred to.
+bool meansDottedName(const OperandText &operand, const TaskFacts &facts)
+{
+    const QString whole = operand.name + QLatin1Char('.') + operand.path;
+    return operand.isReference && !operand.path.isEmpty() && facts.variable(whole) &&
+           facts.typeBehind(operand) == VarType::None;
+}
+
+MaybeFinding undeclaredVariable(const Setting &setting, const TaskFacts &facts)
+{
+    const OperandText &operand = setting.operand;
+    if (!operand.isReference || facts.variable(operand.name) || meansDottedName(operand, facts))
+        return std::nullopt;
+    const NearName near = nearName(operand.name, facts.variableNames());
+    return findingAt(setting, Mistake::UndeclaredVariable, Severity::Error,
+                     {quoted(setting.text()) + QStringLiteral(" names no variable"),
+                      nothingThere(setting), remedyForName(operand.name, QStringLiteral("$"), near),
+                      near.name});
+}
+
+MaybeFinding dottedName(const Setting &setting, const TaskFacts &facts)
+{
+    const OperandText &operand = setting.operand;
+    if (!meansDottedName(operand, facts))
+        return std::nullopt;
+    const QString whole = setting.text().mid(1);
+    return findingAt(setting, Mistake::DottedName, Severity::Error,
+                     {QStringLiteral("%1 is the member %2 of %3, not the variable %4")
+                          .arg(quoted(setting.text()), quoted(operand.path), quoted(operand.name),
+                               quoted(whole)),
+                      nothingThere(setting),
+                      QStringLiteral("give %1 a name without \".\"").arg(quoted(whole)), whole});
+}
+
+/// The variable of a reference with a path that finds nothing, null otherwise.
+const TaskVariable *brokenPath(const Setting &setting, const TaskFacts &facts)
+{
+    const OperandText &operand = setting.operand;
+    const bool broken = operand.isReference && !operand.path.isEmpty() &&
+                        facts.typeBehind(operand) == VarType::None &&
+                        !meansDottedName(operand, facts);
+    return broken ? facts.variable(operand.name) : nullptr;
+}
+
+MaybeFinding pathWithoutList(const Setting &setting, const TaskFacts &facts)
+{
+    const TaskVariable *const variable = brokenPath(setting, facts);
+    if (!variable || holdsElements(variable->type))
+        return std::nullopt;
+    const QString type = varTypeName(variable->type);
+    return findingAt(setting, Mistake::PathWithoutList, Severity::Error,
+                     {QStringLiteral("%1 asks for a member of %2, which is declared as %3")
+                          .arg(quoted(setting.text()), quoted(variable->name), type),
+                      nothingThere(setting),
+                      QStringLiteral("write %1; only lists and tables have members")
+                          .arg(quoted(QLatin1Char('$') + variable->name))});
+}
+
+MaybeFinding unknownPath(const Setting &setting, const TaskFacts &facts)
+{
+    const TaskVariable *const variable = brokenPath(setting, facts);
+    if (!variable || !holdsElements(variable->type))
+        return std::nullopt;
+    const QString meant = nearName(setting.operand.path, listMembers()).name;
+    const QString remedy =
+        meant.isEmpty()
+            ? QStringLiteral("write one of %1 behind the \".\"").arg(anyOf(listMembers()))
+            : QStringLiteral("write ") +
+                  quoted(QStringLiteral("$%1.%2").arg(variable->name, meant));
+    return findingAt(setting, Mistake::UnknownPath, Severity::Error,
+                     {QStringLiteral("a %1 has no member %2")
+                          .arg(varTypeName(variable->type), quoted(setting.operand.path)),
+                      nothingThere(setting), remedy});
+}
+
+MaybeFinding emptyPath(const Setting &setting, const TaskFacts &facts)
+{
+    const OperandText &operand = setting.operand;
+    const bool ends = operand.isReference && operand.path.isEmpty() &&
+                      setting.text().size() > operand.name.size() + 1;
+    if (!ends || !facts.variable(operand.name))
+        return std::nullopt;
+    const QString bare = quoted(QLatin1Char('$') + operand.name);
+    return findingAt(setting, Mistake::EmptyPath, Severity::Warning,
+                     {quoted(setting.text()) + QStringLiteral(" ends in \".\""),
+                      QStringLiteral("the operand is what %1 is, without a \".\"").arg(bare),
+                      QStringLiteral("write %1; if the \".\" is meant, put it behind in a step of "
+                                     "its own")
+                          .arg(bare)});
+}
+
+/// Whether the property is made for values of this type. A kind of "string" asks for something to
+/// be taken as text, which any single value is.
+bool isAskedFor(const PropertySchema &schema, VarType type)
+{
+    if (schema.restriction.isEmpty() || namesType(schema.restriction, type))
+        return true;
+    return schema.restrictionKey == QLatin1String("varref_kind") && !holdsElements(type) &&
+           namesType(schema.restriction, VarType::String);
+}
+
+QString countOf(const OperandText &operand)
+{
+    return quoted(QStringLiteral("$%1.Count").arg(operand.name));
+}
+
+MaybeFinding textOfOtherType(const Setting &setting, const TaskFacts &facts)
+{
+    const VarType type = facts.typeBehind(setting.operand);
+    if (setting.role != PropertyRole::Text || type == VarType::None ||
+        isAskedFor(setting.schema, type))
+        return std::nullopt;
+    QString wanted = setting.schema.restriction;
+    wanted.replace(QLatin1Char(','), QLatin1String(" or "));
+    const QString message = QStringLiteral("%1 is a %2 where %3 is asked for")
+                                .arg(quoted(setting.text()), varTypeName(type), wanted);
+    if (holdsElements(type)) {
+        return findingAt(setting, Mistake::ReferenceType, Severity::Warning,
+                         {message,
+                          QStringLiteral("as a text it is its elements with \", \" between them"),
+                          QStringLiteral("make a text of it in a step of its own, or write %1 for "
+                                         "how many elements it has")
+                              .arg(countOf(setting.operand))});
+    }
+    return findingAt(setting, Mistake::ReferenceType, Severity::Warning,
+                     {message, QStringLiteral("the step takes it as it is, or cannot use it"),
+                      QStringLiteral("refer to a variable of type ") + wanted});
+}
+
+MaybeFinding numberOfOtherType(const Setting &setting, const TaskFacts &facts)
+{
+    const VarType type = facts.typeBehind(setting.operand);
+    if (setting.role != PropertyRole::Number || type == VarType::None)
+        return std::nullopt;
+    const QString message = QStringLiteral("%1 is a %2 where a number is asked for")
+                                .arg(quoted(setting.text()), varTypeName(type));
+    if (type == VarType::Bool) {
+        return findingAt(setting, Mistake::ReferenceType, Severity::Warning,
+                         {message, QStringLiteral("true counts as 1, false as 0"),
+                          QStringLiteral("refer to a variable of type int or double")});
+    }
+    if (!holdsElements(type))
+        return std::nullopt;
+    return findingAt(setting, Mistake::ReferenceType, Severity::Error,
+                     {message, nothingThere(setting),
+                      QStringLiteral("refer to a number, or write %1 for how many elements it has")
+                          .arg(countOf(setting.operand))});
+}
+
+/// A text that no step writes is known, and it may be no number.
+MaybeFinding textThatIsNoNumber(const Setting &setting, const TaskFacts &facts)
+{
+    if (setting.role != PropertyRole::Number ||
+        facts.typeBehind(setting.operand) != VarType::String)
+        return std::nullopt;
+    const TaskVariable &variable = *facts.variable(setting.operand.name);
+    const bool known = variable.value.isValid() && facts.writers(variable.name).isEmpty();
+    if (!known || numberInValue(variable.value))
+        return std::nullopt;
+    return findingAt(setting, Mistake::NotANumber, Severity::Warning,
+                     {QStringLiteral("%1 is %2, which is no number")
+                          .arg(quoted(setting.text()), quoted(variable.value.toString())),
+                      nothingThere(setting),
+                      QStringLiteral("give %1 a number to start with").arg(quoted(variable.name))});
+}
+
+} // namespace
+
+QList<SettingRule> referenceRules()
+{
+    return {undeclaredVariable, dottedName,      pathWithoutList,   unknownPath,
+            emptyPath,          textOfOtherType, numberOfOtherType, textThatIsNoNumber};
+}

@@ -1,0 +1,119 @@
+#include "refhost/engine/check/TaskFacts.h"
+
+#include "refhost/engine/OperationCatalog.h"
+#include "refhost/engine/OperationSchema.h"
+
+#include "Operation.h"
+
+#include <algorithm>
+
+namespace {
+
+Setting readSetting(const Operation &step, const PropertySchema &schema)
+{
+    Setting setting;
+    setting.typeId = step.typeId();
+    setting.schema = schema;
+    setting.role = roleOf(schema);
+    setting.isShown = isShown(schema, step);
+    setting.value = step.property(schema.name.toLatin1().constData());
+    if (setting.role == PropertyRole::Text || setting.role == PropertyRole::Number)
+        setting.operand = readOperand(setting.text());
+    return setting;
+}
+
+/// The schemas of the operations met so far, each read once.
+class Schemas
+{
+public:
+    explicit Schemas(const OperationCatalog &catalog)
+        : m_catalog(catalog)
+    {
+    }
+
+    QList<PropertySchema> of(const Operation &step)
+    {
+        const QString typeId = step.typeId();
+        if (!m_read.contains(typeId)) {
+            const CatalogEntry *const entry = m_catalog.find(typeId);
+            m_read.insert(typeId, OperationSchema(entry ? *entry->prototype : step).properties());
+        }
+        return m_read.value(typeId);
+    }
+
+private:
+    const OperationCatalog &m_catalog;
+    QHash<QString, QList<PropertySchema>> m_read;
+};
+
+bool holdsElements(VarType type)
+{
+    return type == VarType::List || type == VarType::Table;
+}
+
+} // namespace
+
+TaskFacts::TaskFacts(const Task &task, const OperationCatalog &catalog)
+    : m_variables(task.variables)
+{
+    for (const TaskVariable &variable : m_variables) {
+        m_places.insert(variable.name, m_names.size());
+        m_names.append(variable.name);
+    }
+    readSteps(task, catalog);
+    for (const QVector<Setting> &step : qAsConst(m_steps)) {
+        for (const Setting &setting : step)
+            noteUse(setting);
+    }
+}
+
+void TaskFacts::readSteps(const Task &task, const OperationCatalog &catalog)
+{
+    Schemas schemas(catalog);
+    for (const auto &step : task.steps) {
+        QVector<Setting> settings;
+        const QList<PropertySchema> properties = schemas.of(*step);
+        for (const PropertySchema &property : properties) {
+            settings.append(readSetting(*step, property));
+            settings.last().step = m_steps.size();
+        }
+        m_steps.append(settings);
+    }
+}
+
+void TaskFacts::noteUse(const Setting &setting)
+{
+    if (setting.operand.isReference)
+        m_readers[setting.operand.name].append(&setting);
+    else if (setting.role == PropertyRole::Input)
+        m_readers[setting.text()].append(&setting);
+    else if (setting.role == PropertyRole::Result)
+        m_writers[setting.text()].append(&setting);
+}
+
+const Setting *TaskFacts::sibling(const Setting &setting, const QString &name) const
+{
+    const QVector<Setting> &step = m_steps.at(setting.step);
+    const auto found = std::find_if(
+        step.begin(), step.end(), [&](const Setting &other) { return other.schema.name == name; });
+    return found == step.end() ? nullptr : &*found;
+}
+
+const TaskVariable *TaskFacts::variable(const QString &name) const
+{
+    const auto place = m_places.find(name);
+    return place == m_places.end() ? nullptr : &m_variables.at(*place);
+}
+
+VarType TaskFacts::typeBehind(const OperandText &operand) const
+{
+    const TaskVariable *const declared = variable(operand.name);
+    if (!operand.isReference || !declared)
+        return VarType::None;
+    const QString member = operand.path.toLower();
+    if (member.isEmpty() || (member == QLatin1String("items") && holdsElements(declared->type)))
+        return declared->type;
+    const bool counts = member == QLatin1String("count") || member == QLatin1String("rows") ||
+                        member == QLatin1String("columns");
+    return counts && holdsElements(declared->type) ? VarType::Int : VarType::None;
+}

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "refhost/engine/OperandText.h"
+#include "refhost/engine/PropertyRole.h"
+#include "refhost/engine/PropertySchema.h"
+#include "refhost/engine/Task.h"
+
+#include <QHash>
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+#include <QVector>
+
+class OperationCatalog;
+
+/// One property of one step, as the rules of a check look at it.
+struct Setting
+{
+    int step = 0;
+    QString typeId; ///< the step's
+    PropertySchema schema;
+    PropertyRole role = PropertyRole::Other;
+    bool isShown = true;
+    QVariant value;
+    OperandText operand; ///< of a text or a number
+
+    /// The value as it is written.
+    QString text() const { return value.toString(); }
+};
+
+/// What a check wants to know about a task: its settings, its variables, and who reads and writes
+/// them. All of it is read from annotations and values; nothing runs.
+class TaskFacts
+{
+public:
+    /// The defaults of the properties are those of the catalogue's prototypes.
+    TaskFacts(const Task &task, const OperationCatalog &catalog);
+
+    /// The settings of each step, in the order of its properties.
+    const QVector<QVector<Setting>> &steps() const { return m_steps; }
+
+    /// The property called `name` of the same step, null when there is none.
+    const Setting *sibling(const Setting &setting, const QString &name) const;
+
+    const QList<TaskVariable> &variables() const { return m_variables; }
+    const QStringList &variableNames() const { return m_names; }
+
+    /// The variable called `name`, null when it is not declared.
+    const TaskVariable *variable(const QString &name) const;
+
+    /// The type of what a reference finds; none when it finds nothing for sure.
+    VarType typeBehind(const OperandText &operand) const;
+
+    /// The settings that read a variable, hidden ones too, in the order of the steps.
+    QVector<const Setting *> readers(const QString &name) const { return m_readers.value(name); }
+
+    /// The settings that name a variable as their result, in the order of the steps.
+    QVector<const Setting *> writers(const QString &name) const { return m_writers.value(name); }
+
+private:
+    Q_DISABLE_COPY_MOVE(TaskFacts)
+
+    void readSteps(const Task &task, const OperationCatalog &catalog);
+    void noteUse(const Setting &setting);
+
+    QVector<QVector<Setting>> m_steps;
+    QList<TaskVariable> m_variables;
+    QStringList m_names;
+    QHash<QString, int> m_places; ///< of the variables in their list
+    QHash<QString, QVector<const Setting *>> m_readers;
+    QHash<QString, QVector<const Setting *>> m_writers;
+};

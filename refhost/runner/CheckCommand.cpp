@@ -1,0 +1,129 @@
+#include "refhost/runner/CheckCommand.h"
+
+#include "refhost/engine/TaskReader.h"
+#include "refhost/engine/check/TaskCheck.h"
+#include "refhost/runner/Console.h"
+#include "refhost/runner/ExitStatus.h"
+#include "refhost/runner/OneLine.h"
+#include "refhost/runner/Options.h"
+
+#include "Operation.h"
+
+#include <QCommandLineParser>
+#include <QJsonArray>
+#include <QJsonObject>
+
+#include <algorithm>
+
+namespace {
+
+constexpr Severity severities[] = {Severity::Error, Severity::Warning, Severity::Note};
+
+int countOf(Severity severity, const QList<Finding> &findings)
+{
+    const auto count = std::count_if(findings.begin(), findings.end(), [=](const Finding &finding) {
+        return finding.severity == severity;
+    });
+    return static_cast<int>(count);
+}
+
+/// "1 error", "2 errors".
+QString counted(int count, const QString &noun)
+{
+    const QString ending = count == 1 ? QString() : QStringLiteral("s");
+    return QStringLiteral("%1 %2%3").arg(QString::number(count), noun, ending);
+}
+
+QString summaryOf(const QList<Finding> &findings)
+{
+    if (findings.isEmpty())
+        return QStringLiteral("no findings");
+    QStringList parts;
+    for (const Severity severity : severities) {
+        if (const int count = countOf(severity, findings))
+            parts.append(counted(count, severityName(severity)));
+    }
+    return QStringLiteral("%1: %2").arg(counted(findings.size(), QStringLiteral("finding")),
+                                        parts.join(QLatin1String(", ")));
+}
+
+void printFinding(const Finding &finding, Console &console)
+{
+    console.print(oneLine(QStringLiteral("%1: %2: %3 [%4]")
+                              .arg(finding.place(), severityName(finding.severity), finding.message,
+                                   mistakeId(finding.mistake))));
+    console.print(oneLine(QStringLiteral("  what happens: ") + finding.consequence));
+    console.print(oneLine(QStringLiteral("  what to do: ") + finding.remedy));
+}
+
+QJsonObject findingToJson(const Finding &finding)
+{
+    const bool isStep = finding.step >= 0;
+    return {{QStringLiteral("id"), mistakeId(finding.mistake)},
+            {QStringLiteral("severity"), severityName(finding.severity)},
+            {QStringLiteral("step"), isStep ? QJsonValue(finding.step) : QJsonValue()},
+            {QStringLiteral("type"), isStep ? QJsonValue(finding.typeId) : QJsonValue()},
+            {QStringLiteral("property"), finding.property},
+            {QStringLiteral("text"), finding.text},
+            {QStringLiteral("message"), finding.message},
+            {QStringLiteral("consequence"), finding.consequence},
+            {QStringLiteral("remedy"), finding.remedy},
+            {QStringLiteral("meant"), finding.meant}};
+}
+
+QJsonObject findingsToJson(const QList<Finding> &findings)
+{
+    QJsonArray array;
+    for (const Finding &finding : findings)
+        array.append(findingToJson(finding));
+    QJsonObject counts;
+    for (const Severity severity : severities)
+        counts.insert(severityName(severity), countOf(severity, findings));
+    return {{QStringLiteral("findings"), array}, {QStringLiteral("counts"), counts}};
+}
+
+} // namespace
+
+QString CheckCommand::name() const
+{
+    return QStringLiteral("check");
+}
+
+QString CheckCommand::summary() const
+{
+    return QStringLiteral("Finds likely mistakes in a task without running it.");
+}
+
+QString CheckCommand::example() const
+{
+    return QStringLiteral("oprun check examples/mistakes/greeting.json");
+}
+
+QStringList CheckCommand::arguments() const
+{
+    return {QStringLiteral("TASK")};
+}
+
+void CheckCommand::addOptions(QCommandLineParser &parser) const
+{
+    parser.addOption(Options::json());
+}
+
+int CheckCommand::runWith(const OperationCatalog &catalog, const QCommandLineParser &options,
+                          const QStringList &arguments, Console &console) const
+{
+    const Result<Task> task = TaskReader(catalog).readFile(arguments.first());
+    if (!task) {
+        console.complain(task.problem().toString());
+        return BadInput;
+    }
+    const QList<Finding> findings = checkTask(task.value(), catalog);
+    if (options.isSet(Options::json())) {
+        console.printJson(findingsToJson(findings));
+    } else {
+        for (const Finding &finding : findings)
+            printFinding(finding, console);
+        console.print(summaryOf(findings));
+    }
+    return findings.isEmpty() ? Success : Found;
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "refhost/runner/PluginCommand.h"
+
+/// "oprun check TASK": likely mistakes in a task, without running it.
+class CheckCommand : public PluginCommand
+{
+public:
+    QString name() const override;
+    QString summary() const override;
+    QString example() const override;
+    QStringList arguments() const override;
+    void addOptions(QCommandLineParser &parser) const override;
+
+protected:
+    int runWith(const OperationCatalog &catalog, const QCommandLineParser &options,
+                const QStringList &arguments, Console &console) const override;
+};
