@@ -103,7 +103,7 @@ QString textOfValue(const QVariant &value)
         const QVariantList elements = elementsOf(next);
         // An empty list within a list has its place between two separators all the same.
         if (elements.isEmpty())
-            texts.append(holdsElements(next) ? QString() : next.toString());
+            texts.append(next.toString());
         for (auto element = elements.crbegin(); element != elements.crend(); ++element)
             open.push(*element);
     }

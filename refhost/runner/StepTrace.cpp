@@ -37,7 +37,7 @@ QString briefText(const QVariant &value)
             .arg(valueText(beginning(text)))
             .arg(text.size());
     }
-    const QString json = valueText(value);
+    QString json = valueText(value);
     if (json.size() <= briefSize)
         return json;
     return QStringLiteral("%1 (%2 elements)").arg(beginning(json)).arg(value.toList().size());

@@ -485,6 +485,9 @@ void TaskCheckTest::remedies_data()
         R"(write "$订单" alone, and put what follows it behind it in a step of its own)");
     const char *const sign = "; a text that begins with \"$\" has to come from a variable";
     row("$linesofit", {"line"}, qPrintable(QString("declare \"linesofit\"") + sign));
+    row("$订单abcdefg", {"订单"},
+        R"(write "$订单" alone, and put what follows it behind it in a step of its own)");
+    row("$ab", {"ac"}, qPrintable(QString("declare \"ab\"") + sign));
     row("$b", {"a"}, qPrintable(QString("declare \"b\"") + sign));
     row("$x", {}, qPrintable(QString("declare \"x\"") + sign));
 }
@@ -560,6 +563,12 @@ void TaskCheckTest::longTexts()
     QCOMPARE(findings.size(), 2);
     QVERIFY2(findings.first().message.size() < 200, qPrintable(findings.first().message));
     QCOMPARE(findings.first().text.size(), text.size());
+
+    // Not within a pair of surrogates.
+    const QByteArray name = QByteArray(58, 'x') + "\U0001F600\U0001F600";
+    const QList<Finding> cut =
+        check(R"({"steps": [{"type": "editors.operands", "text": "$)" + name + R"("}]})");
+    QCOMPARE(cut.first().message, "\"$" + QString(58, 'x') + "…\" names no variable");
 }
 
 void TaskCheckTest::manySteps()

@@ -21,10 +21,21 @@ Finding findingAt(const Setting &setting, Mistake mistake, Severity severity, co
     return finding;
 }
 
+QString nothingThere(const Setting &setting)
+{
+    if (setting.role == PropertyRole::Text)
+        return QStringLiteral("the operand counts as empty text");
+    return QStringLiteral(
+        "the operand is no number: the step goes on without one, or does nothing");
+}
+
 QString quoted(const QString &text)
 {
     constexpr int limit = 60;
-    return jsonText(text.size() > limit ? text.left(limit - 1) + QStringLiteral("…") : text);
+    if (text.size() <= limit)
+        return jsonText(text);
+    const bool cutsPair = text.at(limit - 1).isHighSurrogate();
+    return jsonText(text.left(cutsPair ? limit - 1 : limit) + QStringLiteral("…"));
 }
 
 QString anyOf(const QStringList &texts)
@@ -32,7 +43,7 @@ QString anyOf(const QStringList &texts)
     QStringList words;
     for (const QString &text : texts)
         words.append(quoted(text));
-    const QString last = words.isEmpty() ? QString() : words.takeLast();
+    QString last = words.isEmpty() ? QString() : words.takeLast();
     if (words.isEmpty())
         return last;
     return QStringLiteral("%1 or %2").arg(words.join(QLatin1String(", ")), last);
@@ -71,7 +82,7 @@ QString remedyForName(const QString &name, const QString &sign, const NearName &
     case NearName::Difference::Far:
         break;
     }
-    const QString declare = QStringLiteral("declare ") + quoted(name);
+    QString declare = QStringLiteral("declare ") + quoted(name);
     if (sign.isEmpty())
         return declare;
     return declare + QStringLiteral("; a text that begins with \"$\" has to come from a variable");

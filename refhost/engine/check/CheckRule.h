@@ -27,6 +27,9 @@ struct Advice
 /// A finding about a setting.
 Finding findingAt(const Setting &setting, Mistake mistake, Severity severity, const Advice &advice);
 
+/// What comes of an operand, a text or a number, that stands for nothing.
+QString nothingThere(const Setting &setting);
+
 /// A text in quotes as it stands in a task file; of a long one the beginning.
 QString quoted(const QString &text);
 

@@ -6,6 +6,7 @@
 #include "refhost/engine/check/NameRules.h"
 #include "refhost/engine/check/ReferenceRules.h"
 #include "refhost/engine/check/TaskFacts.h"
+#include "refhost/engine/check/TypeRules.h"
 
 #include <algorithm>
 
@@ -38,7 +39,7 @@ QList<Finding> checkTask(const Task &task, const OperationCatalog &catalog)
 {
     const TaskFacts facts(task, catalog);
     const QList<SettingRule> shown =
-        referenceRules() + literalRules() + nameRules() + choiceRules();
+        referenceRules() + typeRules() + literalRules() + nameRules() + choiceRules();
     const QList<SettingRule> hidden = hiddenRules();
     QList<Finding> findings;
     for (const QVector<Setting> &step : facts.steps()) {

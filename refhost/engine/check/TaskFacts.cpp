@@ -46,12 +46,12 @@ private:
     QHash<QString, QList<PropertySchema>> m_read;
 };
 
+} // namespace
+
 bool holdsElements(VarType type)
 {
     return type == VarType::List || type == VarType::Table;
 }
-
-} // namespace
 
 TaskFacts::TaskFacts(const Task &task, const OperationCatalog &catalog)
     : m_variables(task.variables)

@@ -14,6 +14,9 @@
 
 class OperationCatalog;
 
+/// Whether values of this type have elements, and so members such as "Count".
+bool holdsElements(VarType type);
+
 /// One property of one step, as the rules of a check look at it.
 struct Setting
 {
