@@ -96,7 +96,7 @@ QString CheckCommand::summary() const
 
 QString CheckCommand::example() const
 {
-    return QStringLiteral("oprun check examples/mistakes/greeting.json");
+    return QStringLiteral("oprun check examples/invoice.json");
 }
 
 QStringList CheckCommand::arguments() const

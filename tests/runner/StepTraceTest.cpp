@@ -15,6 +15,7 @@ private Q_SLOTS:
     void showsTheTime();
     void operandsAreThoseBeforeTheStep();
     void stepOfAnotherPlugin();
+    void resultsAndStatusStay();
 
 private:
     QString trace(const QByteArray &steps, const QStringList &more = {}) const;
@@ -145,6 +146,19 @@ void StepTraceTest::stepOfAnotherPlugin()
                                                 "          who: \"$n\" is \"世界\"\n"
                                                 "          r = \"你好，$n\"\n"));
     QCOMPARE(outcome.status, 0);
+}
+
+void StepTraceTest::resultsAndStatusStay()
+{
+    m_oprun.write("warn.json", R"({"variables": {"r": {"type": "string"}}, "steps": [
+          {"type": "text.reverse", "sourceText": "ab", "resultVar": "r"}, {"type": "text.reverse"}]})");
+    const QStringList arguments{"run", "warn.json", "--print", "r", "--strict"};
+    const OprunFolder::Outcome plain = m_oprun.run(arguments);
+    const OprunFolder::Outcome traced = m_oprun.run(arguments + QStringList("--trace"));
+    QCOMPARE(traced.out, QString("ba\n"));
+    QCOMPARE(traced.out, plain.out);
+    QCOMPARE(traced.status, 1);
+    QCOMPARE(traced.status, plain.status);
 }
 
 QTEST_GUILESS_MAIN(StepTraceTest)
