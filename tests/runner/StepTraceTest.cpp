@@ -1,5 +1,6 @@
 #include "tests/support/OprunFolder.h"
 #include "tests/support/QuietTest.h"
+#include "tests/support/TraceText.h"
 
 #include <QRegularExpression>
 #include <QtTest>
@@ -34,12 +35,6 @@ const char variables[] = R"("variables": {
     "count": {"type": "int", "value": 3},
     "part": {"type": "string"}
 })";
-
-/// The trace without its lines of the time, which differ from run to run.
-QString withoutTimes(QString trace)
-{
-    return trace.remove(QRegularExpression(" *took \\d+\\.\\d µs\n"));
-}
 
 } // namespace
 
