@@ -36,11 +36,12 @@ std::optional<Problem> OutputFile::open()
 {
     if (isStandardOutput())
         return std::nullopt;
-    if (m_name.isEmpty())
+    if (m_name.isEmpty()) {
         return Problem{Problem::Reason::UnwritableFile,
                        {},
                        {},
                        QStringLiteral("an empty file name; expected a file")};
+    }
     const QFileInfo there(m_name);
     // A device or a pipe is written to, not replaced.
     if (there.exists() && !there.isFile() && !there.isDir())

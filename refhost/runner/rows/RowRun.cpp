@@ -58,6 +58,7 @@ void runOnThreads(const Task &task, const RowRun &run, const Interruption &inter
                   RowSource &source, RowSink &sink)
 {
     std::vector<BatchPool::WorkMaker> makers;
+    makers.reserve(static_cast<std::size_t>(run.jobs));
     for (int job = 0; job < run.jobs; ++job)
         makers.push_back(makerFor(task, run, interruption));
     BatchPool pool(makers, [&](const RowBatchOutcome &outcome) { return sink.take(outcome); });

@@ -14,7 +14,7 @@
 namespace {
 
 /// How much is read at once; also about the size of a batch.
-using Block = std::array<char, 64 * 1024>;
+using Block = std::array<char, 65'536>;
 
 /// Reads what is there, which may be less than a block: QFile would wait for all of it.
 qint64 readAvailable(QFile &file, Block &block)
@@ -46,11 +46,12 @@ QString RowSource::name() const
 
 std::optional<Problem> RowSource::open()
 {
-    if (m_name.isEmpty())
+    if (m_name.isEmpty()) {
         return Problem{Problem::Reason::UnreadableFile,
                        {},
                        {},
                        QStringLiteral("an empty file name; expected a file")};
+    }
     constexpr int standardInput = 0;
     const QIODevice::OpenMode mode = QIODevice::ReadOnly | QIODevice::Unbuffered;
     m_file.setFileName(m_name);
