@@ -1,5 +1,7 @@
 #include "refhost/engine/LoadedPlugin.h"
 
+#include "refhost/engine/HostRefusal.h"
+
 #include "IOperationPlugin.h"
 #include "Operation.h"
 
@@ -8,35 +10,12 @@
 
 namespace {
 
-constexpr int hostApiVersion = 2;
-
-QStringList hostCapabilities()
-{
-    return {QStringLiteral("hasListType")};
-}
-
 Problem notLoaded(const QString &path, const QString &reason)
 {
     return {Problem::Reason::PluginNotLoaded,
             path,
             {},
             QStringLiteral("cannot be loaded as a plug-in (%1)").arg(reason)};
-}
-
-/// Why this host cannot use the plug-in, empty when it can.
-QString refusal(const IOperationPlugin &plugin)
-{
-    if (plugin.apiVersion() != hostApiVersion) {
-        return QStringLiteral("it is built for interface version %1, this host has version %2")
-            .arg(plugin.apiVersion())
-            .arg(hostApiVersion);
-    }
-    const QStringList needed = plugin.requiredCapabilities();
-    for (const QString &capability : needed) {
-        if (!hostCapabilities().contains(capability))
-            return QStringLiteral("it requires \"%1\", which this host lacks").arg(capability);
-    }
-    return {};
 }
 
 } // namespace
@@ -60,7 +39,7 @@ Result<LoadedPlugin> LoadedPlugin::load(const QString &path)
         return notLoaded(path, QStringLiteral("its root object does not implement %1")
                                    .arg(QStringLiteral(IOperationPlugin_iid)));
     }
-    const QString reason = refusal(*plugin);
+    const QString reason = hostRefusal(*plugin);
     if (!reason.isEmpty())
         return notLoaded(path, reason);
 

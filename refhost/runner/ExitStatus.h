@@ -7,8 +7,10 @@ enum ExitStatus : int {
     Found = 1,           ///< a task was checked, and something in it looks like a mistake
     Differs = 1,         ///< a worked example gave something else than it says
     RowFailed = 1,       ///< a row failed
+    CheckFailed = 1,     ///< a plug-in failed a check
     BadInput = 2,        ///< the command line, a file or an output cannot be used
     PluginNotLoaded = 3, ///< a plug-in does not load
+    PluginCrashed = 4,   ///< a plug-in took the process along that checked it, or kept it too long
     Interrupted = 130,   ///< asked to end while rows were left, as a shell would report it
     ReaderGone = 141     ///< nobody reads the output any more, as a shell would report it
 };

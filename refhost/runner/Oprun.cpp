@@ -12,6 +12,7 @@
 #include "refhost/runner/PackCommand.h"
 #include "refhost/runner/RunCommand.h"
 #include "refhost/runner/UnpackCommand.h"
+#include "refhost/runner/ValidateCommand.h"
 #include "refhost/runner/Versions.h"
 
 #include <QCommandLineParser>
@@ -37,6 +38,7 @@ Commands allCommands()
     commands.push_back(std::make_unique<UnpackCommand>());
     commands.push_back(std::make_unique<ExamplesCommand>());
     commands.push_back(std::make_unique<DocsCommand>());
+    commands.push_back(std::make_unique<ValidateCommand>());
     return commands;
 }
 

@@ -162,9 +162,9 @@ void OprunTest::refuses_data()
 
     // Of the command line.
     row("no command", valid, {},
-        "no command; expected catalog, describe, run, explain, check, pack, unpack, examples, docs. Try \"oprun --help\".");
+        "no command; expected catalog, describe, run, explain, check, pack, unpack, examples, docs, validate. Try \"oprun --help\".");
     row("unknown command", valid, {"walk"},
-        "no command \"walk\"; expected catalog, describe, run, explain, check, pack, unpack, examples, docs. Try \"oprun --help\".");
+        "no command \"walk\"; expected catalog, describe, run, explain, check, pack, unpack, examples, docs, validate. Try \"oprun --help\".");
     row("unknown option", valid, {"run", "bad.json", "--fast"},
         "Unknown option 'fast'. Try \"oprun --help\".");
     row("unknown option alone", valid, {"--fast"},

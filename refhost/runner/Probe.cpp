@@ -1,0 +1,158 @@
+#include "refhost/runner/Probe.h"
+
+#include "refhost/engine/JsonFile.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QJsonArray>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+#include <csignal>
+
+namespace {
+
+const QString programName = QStringLiteral("oprun-probe");
+
+Problem unusable(const QString &path, const QString &message)
+{
+    return {Problem::Reason::UnreadableFile, path, {}, message};
+}
+
+/// The last line that came on standard error; the rest is thrown away as it comes, however much
+/// there is.
+class LastWords
+{
+public:
+    explicit LastWords(QProcess &process)
+    {
+        process.setStandardInputFile(QProcess::nullDevice());
+        process.setStandardOutputFile(QProcess::nullDevice());
+        QObject::connect(&process, &QProcess::readyReadStandardError, [&] {
+            m_tail = (m_tail + process.readAllStandardError()).right(longest);
+        });
+    }
+
+    QString text() const
+    {
+        const QByteArray trimmed = m_tail.trimmed();
+        return QString::fromUtf8(trimmed.mid(trimmed.lastIndexOf('\n') + 1));
+    }
+
+private:
+    static constexpr int longest = 500;
+
+    QByteArray m_tail;
+};
+
+QString signalName(int number)
+{
+    switch (number) {
+    case SIGABRT:
+        return QStringLiteral("SIGABRT");
+    case SIGFPE:
+        return QStringLiteral("SIGFPE");
+    case SIGILL:
+        return QStringLiteral("SIGILL");
+    case SIGSEGV:
+        return QStringLiteral("SIGSEGV");
+    case SIGTERM:
+        return QStringLiteral("SIGTERM");
+#ifdef Q_OS_UNIX
+    case SIGBUS:
+        return QStringLiteral("SIGBUS");
+    case SIGKILL:
+        return QStringLiteral("SIGKILL");
+    case SIGPIPE:
+        return QStringLiteral("SIGPIPE");
+    case SIGTRAP:
+        return QStringLiteral("SIGTRAP");
+#endif
+    default:
+        return {};
+    }
+}
+
+/// How the process ended that gave no outcome.
+QString endingOf(const QProcess &process)
+{
+    if (process.exitStatus() == QProcess::NormalExit)
+        return QStringLiteral("ended without a result, with status %1").arg(process.exitCode());
+    // Of a process that a signal has ended, Qt gives the number of the signal.
+    const QString name = signalName(process.exitCode());
+    return QStringLiteral("ended by signal %1").arg(process.exitCode()) +
+           (name.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(name));
+}
+
+void addCircumstances(Outcome &outcome, const QString &progressFile, const LastWords &lastWords)
+{
+    QFile progress(progressFile);
+    if (progress.open(QIODevice::ReadOnly) && progress.size() > 0)
+        outcome.remark(QStringLiteral("while: ") + QString::fromUtf8(progress.readAll()));
+    if (!lastWords.text().isEmpty())
+        outcome.remark(QStringLiteral("it said: ") + lastWords.text());
+}
+
+/// Waits for the process and reads the outcome, or makes one of the way it ended.
+Outcome awaitOutcome(QProcess &process, const QString &resultFile, int timeoutSeconds)
+{
+    constexpr int second = 1000;
+    if (!process.waitForStarted())
+        return {Verdict::Crashed, QStringLiteral("not started: ") + process.errorString()};
+    const bool inTime = process.waitForFinished(timeoutSeconds * second);
+    // What was found is found; afterwards the process only ends.
+    if (const auto json = readJsonObject(resultFile)) {
+        if (const auto outcome = Outcome::fromJson(json.value()))
+            return *outcome;
+    }
+    if (inTime || process.state() == QProcess::NotRunning)
+        return {Verdict::Crashed, endingOf(process)};
+    process.kill();
+    process.waitForFinished();
+    return {Verdict::TimedOut, QStringLiteral("ended after %1 s").arg(timeoutSeconds)};
+}
+
+} // namespace
+
+Result<Probe> Probe::find()
+{
+    const QString folder = QCoreApplication::applicationDirPath();
+    Probe probe;
+    probe.m_program = QStandardPaths::findExecutable(programName, {folder});
+    const QString expected = folder + QLatin1Char('/') + programName;
+    if (probe.m_program.isEmpty()) {
+        return unusable(expected, QStringLiteral("not there, or no program; expected the one that "
+                                                 "runs the checks"));
+    }
+    QProcess process;
+    process.start(probe.m_program, {QStringLiteral("--list")});
+    process.waitForFinished();
+    const auto json = parseJsonObject(process.readAllStandardOutput(), expected);
+    if (!json)
+        return unusable(expected, QStringLiteral("does not list the checks it knows"));
+    const QJsonArray list = json.value().value(QStringLiteral("checks")).toArray();
+    for (const QJsonValue &check : list)
+        probe.m_checks.append(CheckInfo::fromJson(check.toObject()));
+    return probe;
+}
+
+CheckReport Probe::run(const CheckInfo &check, const QString &file, quint32 seed,
+                       int timeoutSeconds) const
+{
+    QElapsedTimer timer;
+    timer.start();
+    const QTemporaryDir folder;
+    const QString resultFile = folder.filePath(QStringLiteral("result.json"));
+    const QString progressFile = folder.filePath(QStringLiteral("progress.txt"));
+    QProcess process;
+    const LastWords lastWords(process);
+    process.start(m_program, {check.id, file, QStringLiteral("--seed"), QString::number(seed),
+                              QStringLiteral("--result"), resultFile, QStringLiteral("--progress"),
+                              progressFile});
+    Outcome outcome = awaitOutcome(process, resultFile, timeoutSeconds);
+    if (outcome.verdict() == Verdict::Crashed || outcome.verdict() == Verdict::TimedOut)
+        addCircumstances(outcome, progressFile, lastWords);
+    return {check, outcome, timer.elapsed()};
+}

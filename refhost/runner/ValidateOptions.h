@@ -1,0 +1,23 @@
+#pragma once
+
+#include "refhost/engine/Result.h"
+
+#include <QStringList>
+
+class QCommandLineParser;
+
+/// What "oprun validate" is asked to do.
+struct ValidateOptions
+{
+    bool list = false; ///< list the checks instead
+    bool json = false;
+    int level = 3;
+    QStringList only; ///< the identifiers of the checks to run whatever their level; empty for all
+    quint32 seed = 1;
+    int timeoutSeconds = 60;
+
+    static void addTo(QCommandLineParser &parser);
+
+    /// Reads the options; the problem names the first one that cannot be used.
+    static Result<ValidateOptions> read(const QCommandLineParser &parser);
+};

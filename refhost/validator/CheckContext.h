@@ -1,0 +1,53 @@
+#pragma once
+
+#include "refhost/validator/Progress.h"
+
+#include <QList>
+#include <QString>
+
+#include <optional>
+
+class IOperationPlugin;
+class Operation;
+class QObject;
+
+/// What a check works on: one plug-in, in a process that ends with the check.
+///
+/// The process ends without cleaning up. So a check may leave behind the objects a plug-in gave it;
+/// it has to, where a plug-in might hand out the same one twice.
+class CheckContext
+{
+public:
+    /// `file` is the absolute path of the plug-in; `progressFile` may be empty.
+    CheckContext(const QString &file, quint32 seed, const QString &progressFile);
+
+    const QString &file() const { return m_file; }
+
+    /// Where random values start from; the same seed gives the same check.
+    quint32 seed() const { return m_seed; }
+
+    /// Notes what is done next, for instance "text.pad: saveOperation".
+    void doing(const QString &activity) { m_progress.note(activity); }
+
+    /// Loads the library with all of its symbols and makes the root object; why that does not work,
+    /// otherwise nothing.
+    std::optional<QString> loadLibrary();
+    /// Loads the library and asks whether this host accepts it; why not, otherwise nothing.
+    std::optional<QString> loadPlugin();
+
+    /// The root object; only for checks that need the library.
+    QObject &root() const { return *m_root; }
+    /// The interface of the root object; only for checks that need the plug-in.
+    IOperationPlugin &plugin() const { return *m_plugin; }
+
+    /// What `createPrototypes` gives now, without nulls and doubles, which one check alone has to
+    /// tell of.
+    QList<Operation *> newPrototypes();
+
+private:
+    QString m_file;
+    quint32 m_seed;
+    Progress m_progress;
+    QObject *m_root = nullptr;
+    IOperationPlugin *m_plugin = nullptr;
+};

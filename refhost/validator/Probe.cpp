@@ -1,0 +1,149 @@
+#include "refhost/validator/Probe.h"
+
+#include "refhost/validator/CheckContext.h"
+#include "refhost/validator/CheckList.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QSaveFile>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+constexpr int usageStatus = 2;
+
+/// What the command line asks for.
+struct ProbeTask
+{
+    QString plugin;
+    quint32 seed = 1;
+    QString resultFile;
+    QString progressFile;
+};
+
+const QCommandLineOption &listOption()
+{
+    static const QCommandLineOption option(QStringLiteral("list"),
+                                           QStringLiteral("Print the list of checks as JSON."));
+    return option;
+}
+
+const QCommandLineOption &seedOption()
+{
+    static const QCommandLineOption option(QStringLiteral("seed"),
+                                           QStringLiteral("Start random values from this number."),
+                                           QStringLiteral("N"), QStringLiteral("1"));
+    return option;
+}
+
+const QCommandLineOption &resultOption()
+{
+    static const QCommandLineOption option(
+        QStringLiteral("result"),
+        QStringLiteral("Write the outcome to this file instead of standard output."),
+        QStringLiteral("FILE"));
+    return option;
+}
+
+const QCommandLineOption &progressOption()
+{
+    static const QCommandLineOption option(
+        QStringLiteral("progress"), QStringLiteral("Note in this file what is just being done."),
+        QStringLiteral("FILE"));
+    return option;
+}
+
+void print(const QByteArray &text, std::FILE *stream)
+{
+    std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), stream);
+    std::fflush(stream);
+}
+
+void printChecks()
+{
+    QJsonArray list;
+    for (const auto &check : allChecks())
+        list.append(check->info().toJson());
+    const QJsonObject json{{QStringLiteral("checks"), list}};
+    print(QJsonDocument(json).toJson(), stdout);
+}
+
+/// Gives the check the ground it needs, then runs it.
+Outcome perform(const Check &check, CheckContext &context)
+{
+    std::optional<QString> obstacle;
+    if (check.info().needs == Ground::Library)
+        obstacle = context.loadLibrary();
+    else if (check.info().needs == Ground::Plugin)
+        obstacle = context.loadPlugin();
+    if (obstacle)
+        return {Verdict::Skipped, *obstacle};
+    return check.run(context);
+}
+
+bool writeOutcome(const Outcome &outcome, const QString &resultFile)
+{
+    const QByteArray text = QJsonDocument(outcome.toJson()).toJson();
+    if (resultFile.isEmpty()) {
+        print(text, stdout);
+        return true;
+    }
+    QSaveFile file(resultFile);
+    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit();
+}
+
+/// Runs the check and ends the process there and then: how a plug-in behaves when a program ends is
+/// not the concern of every check.
+[[noreturn]] void runCheck(const Check &check, const ProbeTask &task, int &argc, char **argv)
+{
+    const auto application = check.makeApplication(argc, argv);
+    CheckContext context(task.plugin, task.seed, task.progressFile);
+    const bool written = writeOutcome(perform(check, context), task.resultFile);
+    std::_Exit(written ? EXIT_SUCCESS : usageStatus);
+}
+
+QStringList argumentList(int argc, char *argv[])
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    return arguments;
+}
+
+int usageError(const QString &message)
+{
+    print(QStringLiteral("oprun-probe: %1\n").arg(message).toUtf8(), stderr);
+    return usageStatus;
+}
+
+} // namespace
+
+int runProbe(int argc, char *argv[])
+{
+    QCommandLineParser parser;
+    parser.addOptions({listOption(), seedOption(), resultOption(), progressOption()});
+    if (!parser.parse(argumentList(argc, argv)))
+        return usageError(parser.errorText());
+    if (parser.isSet(listOption())) {
+        printChecks();
+        return EXIT_SUCCESS;
+    }
+    const QStringList arguments = parser.positionalArguments();
+    if (arguments.size() != 2)
+        return usageError(QStringLiteral("expected CHECK PLUGIN or --list"));
+    const auto check = makeCheck(arguments.first());
+    if (!check)
+        return usageError(QStringLiteral("no check \"%1\"").arg(arguments.first()));
+    ProbeTask task;
+    // Qt would look for a relative path in its own plug-in folders, not here.
+    task.plugin = QFileInfo(arguments.last()).absoluteFilePath();
+    task.seed = parser.value(seedOption()).toUInt();
+    task.resultFile = parser.value(resultOption());
+    task.progressFile = parser.value(progressOption());
+    runCheck(*check, task, argc, argv);
+}

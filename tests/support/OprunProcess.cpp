@@ -1,0 +1,15 @@
+#include "tests/support/OprunProcess.h"
+
+#include <QProcess>
+
+OprunOutcome runProgram(const QString &oprun, const QStringList &arguments, const QString &folder)
+{
+    constexpr int tenMinutes = 600000;
+    QProcess process;
+    process.setWorkingDirectory(folder);
+    process.start(oprun, arguments);
+    if (!process.waitForFinished(tenMinutes) || process.exitStatus() != QProcess::NormalExit)
+        return {-1, {}, process.errorString()};
+    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+            QString::fromUtf8(process.readAllStandardError())};
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// What a run of oprun printed and how it ended.
+struct OprunOutcome
+{
+    int status = -1; ///< -1 when it did not end by itself
+    QString out;
+    QString err;
+};
+
+/// Runs the program `oprun` with these arguments in `folder`, the current one when it is empty.
+OprunOutcome runProgram(const QString &oprun, const QStringList &arguments,
+                        const QString &folder = {});
