@@ -1,5 +1,7 @@
 #include "refhost/validator/Check.h"
 
+#include "refhost/validator/CheckContext.h"
+
 #include <QCoreApplication>
 
 #include <utility>
@@ -10,6 +12,19 @@ Check::Check(CheckInfo info)
 }
 
 Check::~Check() = default;
+
+std::optional<QString> Check::prepare(CheckContext &context) const
+{
+    switch (m_info.needs) {
+    case Ground::Library:
+        return context.loadLibrary();
+    case Ground::Plugin:
+        return context.loadPlugin();
+    case Ground::File:
+        break;
+    }
+    return std::nullopt;
+}
 
 std::unique_ptr<QCoreApplication> Check::makeApplication(int &argc, char **argv) const
 {

@@ -3,6 +3,7 @@
 #include "refhost/engine/HostRefusal.h"
 
 #include "IOperationPlugin.h"
+#include "Operation.h"
 
 #include <QPluginLoader>
 
@@ -51,4 +52,12 @@ QList<Operation *> CheckContext::newPrototypes()
             distinct.append(prototype);
     }
     return distinct;
+}
+
+QString CheckContext::nameOf(const Operation &operation)
+{
+    const QString className = QString::fromLatin1(operation.metaObject()->className());
+    doing(className + QStringLiteral(": typeId"));
+    const QString typeId = operation.typeId();
+    return typeId.isEmpty() ? className : typeId;
 }

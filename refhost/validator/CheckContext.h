@@ -44,6 +44,9 @@ public:
     /// tell of.
     QList<Operation *> newPrototypes();
 
+    /// What to call an operation in details: its type identifier, or its class when it has none.
+    QString nameOf(const Operation &operation);
+
 private:
     QString m_file;
     quint32 m_seed;

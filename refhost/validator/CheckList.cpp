@@ -1,9 +1,32 @@
 #include "refhost/validator/CheckList.h"
 
 #include "refhost/validator/checks/AcceptanceCheck.h"
+#include "refhost/validator/checks/ChoicesCheck.h"
+#include "refhost/validator/checks/ConditionsCheck.h"
+#include "refhost/validator/checks/DefaultsCheck.h"
+#include "refhost/validator/checks/EditorsCheck.h"
+#include "refhost/validator/checks/ExportsCheck.h"
+#include "refhost/validator/checks/IconFilesCheck.h"
+#include "refhost/validator/checks/IconPicturesCheck.h"
+#include "refhost/validator/checks/IdentityCheck.h"
+#include "refhost/validator/checks/IndependenceCheck.h"
+#include "refhost/validator/checks/InterfaceIdCheck.h"
+#include "refhost/validator/checks/KeysCheck.h"
+#include "refhost/validator/checks/LoadTimeCheck.h"
 #include "refhost/validator/checks/LoadingCheck.h"
+#include "refhost/validator/checks/ManifestCheck.h"
+#include "refhost/validator/checks/MembersCheck.h"
 #include "refhost/validator/checks/MetadataCheck.h"
+#include "refhost/validator/checks/PropertiesCheck.h"
+#include "refhost/validator/checks/PrototypesCheck.h"
+#include "refhost/validator/checks/QtVersionCheck.h"
+#include "refhost/validator/checks/ReloadCheck.h"
+#include "refhost/validator/checks/RestrictionsCheck.h"
+#include "refhost/validator/checks/ResultVariableCheck.h"
+#include "refhost/validator/checks/SettersCheck.h"
+#include "refhost/validator/checks/TextsCheck.h"
 #include "refhost/validator/checks/TypeIdsCheck.h"
+#include "refhost/validator/checks/WeightsCheck.h"
 
 namespace {
 
@@ -21,9 +44,14 @@ Checks allChecks()
 {
     Checks checks;
     // Level 1: the file.
-    add<MetadataCheck, LoadingCheck, AcceptanceCheck>(checks);
+    add<MetadataCheck, InterfaceIdCheck, QtVersionCheck, ExportsCheck, LoadingCheck,
+        AcceptanceCheck, LoadTimeCheck, ReloadCheck>(checks);
     // Level 2: the catalogue.
-    add<TypeIdsCheck>(checks);
+    add<ManifestCheck, IdentityCheck, PrototypesCheck, TypeIdsCheck, WeightsCheck, TextsCheck,
+        IconFilesCheck, IconPicturesCheck>(checks);
+    // Level 3: annotations and properties.
+    add<KeysCheck, EditorsCheck, RestrictionsCheck, ChoicesCheck, ConditionsCheck, PropertiesCheck,
+        SettersCheck, IndependenceCheck, DefaultsCheck, ResultVariableCheck, MembersCheck>(checks);
     return checks;
 }
 

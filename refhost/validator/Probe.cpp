@@ -73,15 +73,9 @@ void printChecks()
     print(QJsonDocument(json).toJson(), stdout);
 }
 
-/// Gives the check the ground it needs, then runs it.
 Outcome perform(const Check &check, CheckContext &context)
 {
-    std::optional<QString> obstacle;
-    if (check.info().needs == Ground::Library)
-        obstacle = context.loadLibrary();
-    else if (check.info().needs == Ground::Plugin)
-        obstacle = context.loadPlugin();
-    if (obstacle)
+    if (const auto obstacle = check.prepare(context))
         return {Verdict::Skipped, *obstacle};
     return check.run(context);
 }

@@ -1,0 +1,68 @@
+#include "refhost/validator/checks/EditorsCheck.h"
+
+#include "refhost/validator/CheckContext.h"
+#include "refhost/validator/OperationClass.h"
+
+#include "Operation.h"
+
+namespace {
+
+/// The editors of properties of a type; empty for a type that decides by itself.
+QStringList editorsFor(int type)
+{
+    switch (type) {
+    case QMetaType::QString:
+        return {QStringLiteral("VARREF"),        QStringLiteral("NUMVAR:INT"),
+                QStringLiteral("NUMVAR:SCALAR"), QStringLiteral("VARNAME:STRING"),
+                QStringLiteral("VARNAME:INT"),   QStringLiteral("VARNAME:LIST"),
+                QStringLiteral("VARNAME:SCALAR")};
+    case QMetaType::Int:
+        return {QStringLiteral("COMBO")};
+    default:
+        return {};
+    }
+}
+
+/// What is wrong with the editor of a property, empty when nothing is.
+QString editorFault(const OperationClass &declared, const QMetaProperty &property)
+{
+    const auto editor = declared.value(QStringLiteral("editor"), nameOf(property));
+    const QStringList fitting = editorsFor(property.userType());
+    const QString type = QString::fromLatin1(property.typeName());
+    if (editor && fitting.isEmpty())
+        return QStringLiteral("\"%1\"; expected no editor for the type %2").arg(*editor, type);
+    if (!editor && !fitting.isEmpty()) {
+        return QStringLiteral("missing; expected %1 for the type %2")
+            .arg(fitting.join(QLatin1String(", ")), type);
+    }
+    if (editor && !fitting.contains(*editor)) {
+        return QStringLiteral("\"%1\"; expected %2 for the type %3")
+            .arg(*editor, fitting.join(QLatin1String(", ")), type);
+    }
+    return {};
+}
+
+} // namespace
+
+EditorsCheck::EditorsCheck()
+    : Check({QStringLiteral("schema.editors"), 3,
+             QStringLiteral("Editor words are known and fit the type of their property.")})
+{
+}
+
+Outcome EditorsCheck::run(CheckContext &context) const
+{
+    Outcome outcome;
+    const QList<Operation *> prototypes = context.newPrototypes();
+    for (const Operation *prototype : prototypes) {
+        const QString name = context.nameOf(*prototype);
+        const OperationClass declared(*prototype);
+        for (const QMetaProperty &property : declared.properties()) {
+            const QString fault = editorFault(declared, property);
+            if (!fault.isEmpty())
+                outcome.fail(
+                    QStringLiteral("%1: editor_%2: %3").arg(name, nameOf(property), fault));
+        }
+    }
+    return outcome;
+}
