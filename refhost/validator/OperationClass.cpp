@@ -63,6 +63,28 @@ QString OperationClass::editor(const QMetaProperty &property) const
     return value(QStringLiteral("editor"), nameOf(property)).value_or(QString());
 }
 
+QStringList OperationClass::editorsFor(int type)
+{
+    switch (type) {
+    case QMetaType::QString:
+        return {QStringLiteral("VARREF"),        QStringLiteral("NUMVAR:INT"),
+                QStringLiteral("NUMVAR:SCALAR"), QStringLiteral("VARNAME:STRING"),
+                QStringLiteral("VARNAME:INT"),   QStringLiteral("VARNAME:LIST"),
+                QStringLiteral("VARNAME:SCALAR")};
+    case QMetaType::Int:
+        return {QStringLiteral("COMBO")};
+    default:
+        return {};
+    }
+}
+
+bool OperationClass::hasUnknownEditor(const QMetaProperty &property) const
+{
+    const auto word = value(QStringLiteral("editor"), nameOf(property));
+    return word && !editorsFor(QMetaType::QString).contains(*word) &&
+           !editorsFor(QMetaType::Int).contains(*word);
+}
+
 QStringList OperationClass::choices(const QString &property) const
 {
     const auto labels = value(QStringLiteral("choices"), property);

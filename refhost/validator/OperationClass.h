@@ -43,6 +43,13 @@ public:
     /// The editor word of the property, empty when there is none.
     QString editor(const QMetaProperty &property) const;
 
+    /// The editors that a property of the type can have; empty for a type that decides by itself.
+    static QStringList editorsFor(int type);
+
+    /// Whether the property has an editor word that no type has, which one check alone has to tell
+    /// of.
+    bool hasUnknownEditor(const QMetaProperty &property) const;
+
     /// The labels of the property's choice list, empty when it has none.
     QStringList choices(const QString &property) const;
 

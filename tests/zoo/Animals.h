@@ -19,3 +19,6 @@ QList<Animal> fileAnimals();
 
 /// Those with a fault in what they tell the catalogue.
 QList<Animal> catalogueAnimals();
+
+/// Those with a fault in their annotations and properties.
+QList<Animal> schemaAnimals();

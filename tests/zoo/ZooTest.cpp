@@ -27,7 +27,7 @@ namespace {
 
 QList<Animal> allAnimals()
 {
-    return fileAnimals() + catalogueAnimals();
+    return fileAnimals() + catalogueAnimals() + schemaAnimals();
 }
 
 QString fileOf(const QString &name)

@@ -7,27 +7,11 @@
 
 namespace {
 
-/// The editors of properties of a type; empty for a type that decides by itself.
-QStringList editorsFor(int type)
-{
-    switch (type) {
-    case QMetaType::QString:
-        return {QStringLiteral("VARREF"),        QStringLiteral("NUMVAR:INT"),
-                QStringLiteral("NUMVAR:SCALAR"), QStringLiteral("VARNAME:STRING"),
-                QStringLiteral("VARNAME:INT"),   QStringLiteral("VARNAME:LIST"),
-                QStringLiteral("VARNAME:SCALAR")};
-    case QMetaType::Int:
-        return {QStringLiteral("COMBO")};
-    default:
-        return {};
-    }
-}
-
 /// What is wrong with the editor of a property, empty when nothing is.
 QString editorFault(const OperationClass &declared, const QMetaProperty &property)
 {
     const auto editor = declared.value(QStringLiteral("editor"), nameOf(property));
-    const QStringList fitting = editorsFor(property.userType());
+    const QStringList fitting = OperationClass::editorsFor(property.userType());
     const QString type = QString::fromLatin1(property.typeName());
     if (editor && fitting.isEmpty())
         return QStringLiteral("\"%1\"; expected no editor for the type %2").arg(*editor, type);

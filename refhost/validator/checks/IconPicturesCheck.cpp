@@ -25,6 +25,7 @@ Outcome IconPicturesCheck::run(CheckContext &context) const
         return {Verdict::Skipped, QStringLiteral("this program is built without Qt Gui or Qt Svg")};
     }
     Outcome outcome;
+    bool isAnyThere = false;
     const QList<Operation *> prototypes = context.newPrototypes();
     for (const Operation *prototype : prototypes) {
         const QString name = context.nameOf(*prototype);
@@ -33,6 +34,7 @@ Outcome IconPicturesCheck::run(CheckContext &context) const
         // Another check tells of icons that are not there.
         if (!QFile::exists(path))
             continue;
+        isAnyThere = true;
         for (const int size : {16, 24, 48, 200}) {
             context.doing(QStringLiteral("%1: rendering \"%2\" at %3 pixels")
                               .arg(name, path, QString::number(size)));
@@ -41,5 +43,5 @@ Outcome IconPicturesCheck::run(CheckContext &context) const
                 outcome.fail(QStringLiteral("%1: icon: \"%2\" %3").arg(name, path, fault));
         }
     }
-    return outcome;
+    return isAnyThere ? outcome : Outcome(Verdict::Skipped, QStringLiteral("there are no icons"));
 }

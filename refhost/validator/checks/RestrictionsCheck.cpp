@@ -88,8 +88,10 @@ Outcome RestrictionsCheck::run(CheckContext &context) const
     for (const Operation *prototype : prototypes) {
         const QString name = context.nameOf(*prototype);
         const OperationClass declared(*prototype);
-        for (const QMetaProperty &property : declared.properties())
-            checkProperty(name, declared, property, outcome);
+        for (const QMetaProperty &property : declared.properties()) {
+            if (!declared.hasUnknownEditor(property))
+                checkProperty(name, declared, property, outcome);
+        }
     }
     return outcome;
 }

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "tests/zoo/SoundPlugin.h"
+#include "tests/zoo/Variant.h"
+
+/// The operation of the plug-in below.
+class DoubledKeyOperation : public Variant<DoubledKeyOperation, SoundBase>
+{
+    Q_OBJECT
+
+    Q_CLASSINFO("prop_text", "Text")
+    Q_CLASSINFO("editor_text", "VARREF")
+    Q_CLASSINFO("varref_kind_text", "string")
+    Q_CLASSINFO("varref_kind_text", "string")
+    Q_CLASSINFO("prop_resultVar", "Save to string variable")
+    Q_CLASSINFO("editor_resultVar", "VARNAME:STRING")
+    Q_CLASSINFO("varname_type_resultVar", "string")
+
+    Q_PROPERTY(QString text READ text WRITE setText)
+    Q_PROPERTY(QString resultVar READ resultVar WRITE setResultVar)
+};
+
+/// The same class info twice.
+class DoubledKey : public SoundPlugin
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID IOperationPlugin_iid)
+
+public:
+    QList<Operation *> createPrototypes() override { return {new DoubledKeyOperation}; }
+};
