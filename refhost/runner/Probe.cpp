@@ -4,11 +4,13 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QEventLoop>
 #include <QFile>
 #include <QJsonArray>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include <csignal>
 
@@ -95,19 +97,32 @@ void addCircumstances(Outcome &outcome, const QString &progressFile, const LastW
         outcome.remark(QStringLiteral("it said: ") + lastWords.text());
 }
 
+/// Waits for the end of the process, taking what it says meanwhile. False when it does not come in
+/// time.
+bool endsInTime(QProcess &process, int timeoutSeconds)
+{
+    constexpr int second = 1000;
+    QEventLoop loop;
+    QObject::connect(&process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), &loop,
+                     &QEventLoop::quit);
+    QTimer::singleShot(timeoutSeconds * second, &loop, &QEventLoop::quit);
+    if (process.state() != QProcess::NotRunning)
+        loop.exec();
+    return process.state() == QProcess::NotRunning;
+}
+
 /// Waits for the process and reads the outcome, or makes one of the way it ended.
 Outcome awaitOutcome(QProcess &process, const QString &resultFile, int timeoutSeconds)
 {
-    constexpr int second = 1000;
     if (!process.waitForStarted())
         return {Verdict::Crashed, QStringLiteral("not started: ") + process.errorString()};
-    const bool inTime = process.waitForFinished(timeoutSeconds * second);
+    const bool inTime = endsInTime(process, timeoutSeconds);
     // What was found is found; afterwards the process only ends.
     if (const auto json = readJsonObject(resultFile)) {
         if (const auto outcome = Outcome::fromJson(json.value()))
             return *outcome;
     }
-    if (inTime || process.state() == QProcess::NotRunning)
+    if (inTime)
         return {Verdict::Crashed, endingOf(process)};
     process.kill();
     process.waitForFinished();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMap>
 #include <QString>
 #include <QStringList>
 
@@ -11,6 +12,7 @@ struct OprunOutcome
     QString err;
 };
 
-/// Runs the program `oprun` with these arguments in `folder`, the current one when it is empty.
+/// Runs the program `oprun` with these arguments in `folder`, the current one when it is empty,
+/// with these environment variables added.
 OprunOutcome runProgram(const QString &oprun, const QStringList &arguments,
-                        const QString &folder = {});
+                        const QString &folder = {}, const QMap<QString, QString> &environment = {});

@@ -3,7 +3,7 @@
 #include "tests/zoo/SoundPlugin.h"
 
 /// Nobody's concern but this library's.
-Q_DECL_EXPORT inline int zooSecret()
+Q_DECL_EXPORT int zooSecret()
 {
     return 1;
 }
