@@ -1,5 +1,5 @@
 # Installs into an empty folder, moves it, and runs a task from there: the programs find their
-# library and the plug-in beside themselves.
+# library and the plug-in beside themselves, and oprun its probe.
 #
 #   cmake -D BUILD_DIR=... -D WORK_DIR=... -D TASK=... -P InstallTree.cmake
 
@@ -14,4 +14,10 @@ execute_process(COMMAND ${WORK_DIR}/second/bin/oprun run ${TASK} --strict
     RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
 if(result)
     message(FATAL_ERROR "oprun from the installed tree gave ${result}\n${output}")
+endif()
+file(GLOB_RECURSE plugin ${WORK_DIR}/second/*TextOperPlugin.so)
+execute_process(COMMAND ${WORK_DIR}/second/bin/oprun validate --only file.loads ${plugin}
+    RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
+if(result)
+    message(FATAL_ERROR "oprun validate from the installed tree gave ${result}\n${output}")
 endif()
