@@ -96,6 +96,7 @@ bool writeOutcome(const Outcome &outcome, const QString &resultFile)
 [[noreturn]] void runCheck(const Check &check, const ProbeTask &task, int &argc, char **argv)
 {
     const auto application = check.makeApplication(argc, argv);
+    Q_UNUSED(application)
     CheckContext context(task.plugin, task.seed, task.progressFile);
     const bool written = writeOutcome(perform(check, context), task.resultFile);
     std::_Exit(written ? EXIT_SUCCESS : usageStatus);

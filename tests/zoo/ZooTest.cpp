@@ -69,9 +69,9 @@ OprunOutcome validate(const QString &file, const QStringList &options)
 void inParallel(int count, const std::function<void(int)> &work)
 {
     std::atomic<int> next = 0;
-    std::vector<std::thread> threads;
-    for (int i = 0; i < QThread::idealThreadCount(); ++i) {
-        threads.emplace_back([&] {
+    std::vector<std::thread> threads(static_cast<std::size_t>(QThread::idealThreadCount()));
+    for (std::thread &thread : threads) {
+        thread = std::thread([&] {
             for (int number = next++; number < count; number = next++)
                 work(number);
         });
@@ -153,7 +153,8 @@ void ZooTest::animals()
     QCOMPARE(outcome.err, QString());
     QStringList caught;
     QString details;
-    for (const QJsonValue &check : checksIn(outcome.out)) {
+    const QJsonArray checks = checksIn(outcome.out);
+    for (const QJsonValue &check : checks) {
         const QString result = check["result"].toString();
         if (result == "passed" || result == "skipped")
             continue;

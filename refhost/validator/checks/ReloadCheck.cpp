@@ -48,7 +48,7 @@ QString useOnce(const QString &round, CheckContext &context, Outcome &outcome)
         outcome.fail(QStringLiteral("not loaded the %1 time: %2").arg(round, loader.errorString()));
         return {};
     }
-    const QString identity = identityOf(*plugin);
+    QString identity = identityOf(*plugin);
     context.doing(QStringLiteral("createPrototypes, loaded the %1 time").arg(round));
     const QList<Operation *> prototypes = plugin->createPrototypes();
     const QSet<Operation *> distinct(prototypes.begin(), prototypes.end());
