@@ -185,10 +185,11 @@ void ValidateCommandTest::reportsAsJson()
     QCOMPARE(plugin["plugin"].toString(), QString(GREET_PLUGIN));
     QCOMPARE(plugin["level"].toInt(), 2);
     QCOMPARE(plugin["seed"].toInt(), 1);
-    QCOMPARE(plugin["counts"]["failed"].toInt(), 1);
     QCOMPARE(plugin["counts"]["crashed"].toInt(-1), 0);
     const QJsonArray checks = plugin["checks"].toArray();
+    int failed = 0;
     for (const QJsonValue &check : checks) {
+        failed += check["result"] == "failed" ? 1 : 0;
         QCOMPARE(check.toObject().keys(),
                  QStringList({"details", "id", "level", "milliseconds", "result", "sentence"}));
         QVERIFY(check["milliseconds"].toInt(-1) >= 0);
@@ -197,6 +198,8 @@ void ValidateCommandTest::reportsAsJson()
             QCOMPARE(check["details"].toArray().size(), 1);
         }
     }
+    QVERIFY(failed > 0);
+    QCOMPARE(plugin["counts"]["failed"].toInt(), failed);
 }
 
 void ValidateCommandTest::runsOnlyThoseNamed()

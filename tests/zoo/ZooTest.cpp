@@ -27,6 +27,7 @@ class ZooTest : public QuietTest
 private Q_SLOTS:
     void initTestCase();
     void soundAnimalPasses();
+    void exampleLacksOnlyItsIcon();
     void animals_data();
     void animals();
     void everyAnimalIsTold();
@@ -87,6 +88,22 @@ QJsonArray checksIn(const QString &out)
     return json.value("plugins").toArray().at(0).toObject().value("checks").toArray();
 }
 
+/// "result id" of each check in the JSON that neither passed nor was skipped; their details are
+/// added to `details`.
+QStringList caughtIn(const QString &out, QString &details)
+{
+    QStringList caught;
+    const QJsonArray checks = checksIn(out);
+    for (const QJsonValue &check : checks) {
+        const QString result = check["result"].toString();
+        if (result == "passed" || result == "skipped")
+            continue;
+        caught.append(result + ' ' + check["id"].toString());
+        details += check["details"].toVariant().toStringList().join('\n') + '\n';
+    }
+    return caught;
+}
+
 } // namespace
 
 QString ZooTest::fileOf(const QString &name) const
@@ -137,6 +154,15 @@ void ZooTest::soundAnimalPasses()
     QCOMPARE(outcome.status, 0);
 }
 
+void ZooTest::exampleLacksOnlyItsIcon()
+{
+    // The example in the interface header leaves the drawing to its reader.
+    const OprunOutcome outcome = validate(GREET_PLUGIN, {});
+    QString details;
+    QCOMPARE(caughtIn(outcome.out, details), QStringList("failed catalog.icons"));
+    QVERIFY2(details.startsWith("greet.hello: icon: "), qPrintable(details));
+}
+
 void ZooTest::animals_data()
 {
     QTest::addColumn<int>("status");
@@ -151,16 +177,8 @@ void ZooTest::animals()
 {
     const OprunOutcome outcome = m_outcomes.value(QTest::currentDataTag());
     QCOMPARE(outcome.err, QString());
-    QStringList caught;
     QString details;
-    const QJsonArray checks = checksIn(outcome.out);
-    for (const QJsonValue &check : checks) {
-        const QString result = check["result"].toString();
-        if (result == "passed" || result == "skipped")
-            continue;
-        caught.append(result + ' ' + check["id"].toString());
-        details += check["details"].toVariant().toStringList().join('\n') + '\n';
-    }
+    const QStringList caught = caughtIn(outcome.out, details);
     QFETCH(QString, detail);
     QTEST(caught, "caught");
     QVERIFY2(details.contains(detail), qPrintable(details));
