@@ -73,6 +73,7 @@ void printChecks()
     print(QJsonDocument(json).toJson(), stdout);
 }
 
+/// Prepares the check and runs it; one that cannot be prepared is skipped.
 Outcome perform(const Check &check, CheckContext &context)
 {
     if (const auto obstacle = check.prepare(context))
@@ -80,6 +81,7 @@ Outcome perform(const Check &check, CheckContext &context)
     return check.run(context);
 }
 
+/// Writes the outcome to the file, or to standard output when there is none. False when it cannot.
 bool writeOutcome(const Outcome &outcome, const QString &resultFile)
 {
     const QByteArray text = QJsonDocument(outcome.toJson()).toJson();

@@ -24,5 +24,6 @@ QList<Animal> fileAnimals()
         {"Stranger", 3, {"failed file.interface", "failed file.accepted"}, "object Stranger does"},
         {"TextFile", 3, {"failed file.metadata", "failed file.loads"}, "there is no metadata"},
         {"UndefinedSymbol", 3, {"failed file.loads"}, "zooMissing"},
+        {"WeakExport", 0, {"warning file.exports"}, "exports int zooTwice<int>(int), as weak"},
     };
 }

@@ -56,7 +56,7 @@ QList<Animal> propertyAnimals()
          "property text has a NOTIFY signal"},
         {"ReadOnlyProperty", 1, {"failed schema.properties"}, "property text cannot be written"},
         {"UnstorableType", 1, {"failed schema.properties"}, "words is of type QStringList"},
-        {"ClampingSetter", 1, {"failed schema.setters"}, "mode = 99: gives back 1"},
+        {"ClampingSetter", 1, {"failed schema.setters"}, "mode = -1: gives back 0"},
         {"TrimmingSetter", 1, {"failed schema.setters"}, "text = \" \": gives back \"\""},
         {"MeddlingSetter",
          1,

@@ -159,8 +159,9 @@ void ZooTest::exampleLacksOnlyItsIcon()
     // The example in the interface header leaves the drawing to its reader.
     const OprunOutcome outcome = validate(GREET_PLUGIN, {});
     QString details;
-    QCOMPARE(caughtIn(outcome.out, details), QStringList("failed catalog.icons"));
-    QVERIFY2(details.startsWith("greet.hello: icon: "), qPrintable(details));
+    const QStringList failed = caughtIn(outcome.out, details).filter("failed ");
+    QCOMPARE(failed, QStringList("failed catalog.icons"));
+    QVERIFY2(details.contains("greet.hello: icon: "), qPrintable(details));
 }
 
 void ZooTest::animals_data()

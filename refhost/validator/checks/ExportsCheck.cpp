@@ -7,6 +7,8 @@
 #include <QStandardPaths>
 #include <QStringList>
 
+#include <algorithm>
+
 namespace {
 
 /// What a plug-in exports for Qt, and what some linkers add to every library.
@@ -22,15 +24,46 @@ QStringList entryPoints()
             QStringLiteral("__bss_start")};
 }
 
-/// The symbols in a listing of nm in the format of POSIX: name, letter, value, size.
-QStringList symbolsIn(const QString &listing)
+/// A symbol that a library exports.
+struct Symbol
 {
-    static const QRegularExpression line(QStringLiteral("^(.+) [A-Za-z] [0-9a-f]*( [0-9a-f]*)?$"),
+    QString name;
+    bool isWeak = false; ///< one of many that other libraries may have as well
+};
+
+/// The symbols in a listing of nm in the format of POSIX, name, letter, value, size; less those
+/// that have to be there.
+QList<Symbol> surplusSymbols(const QString &listing)
+{
+    static const QRegularExpression line(QStringLiteral("^(.+) ([A-Za-z]) [0-9a-f]*( [0-9a-f]*)?$"),
                                          QRegularExpression::MultilineOption);
-    QStringList symbols;
-    for (auto match = line.globalMatch(listing); match.hasNext();)
-        symbols.append(match.next().captured(1));
+    const QString weakLetters = QStringLiteral("VvWwu");
+    QList<Symbol> symbols;
+    for (auto matches = line.globalMatch(listing); matches.hasNext();) {
+        const QRegularExpressionMatch match = matches.next();
+        if (!entryPoints().contains(match.captured(1)))
+            symbols.append({match.captured(1), weakLetters.contains(match.captured(2))});
+    }
     return symbols;
+}
+
+/// What is to be said of them, the first of each kind by name.
+Outcome outcomeOf(const QList<Symbol> &symbols)
+{
+    constexpr int mostNamed = 10;
+    Outcome outcome;
+    int strong = 0;
+    int weak = 0;
+    for (const Symbol &symbol : symbols) {
+        if (!symbol.isWeak && ++strong <= mostNamed)
+            outcome.fail(QStringLiteral("exports %1").arg(symbol.name));
+        else if (symbol.isWeak && ++weak <= mostNamed)
+            outcome.warn(QStringLiteral("exports %1, as weak").arg(symbol.name));
+    }
+    const int unnamed = std::max(0, strong - mostNamed) + std::max(0, weak - mostNamed);
+    if (unnamed > 0)
+        outcome.remark(QStringLiteral("and %1 more").arg(unnamed));
+    return outcome;
 }
 
 } // namespace
@@ -56,14 +89,5 @@ Outcome ExportsCheck::run(CheckContext &context) const
         return {Verdict::Skipped, QStringLiteral("nm cannot list the symbols: %1")
                                       .arg(QString::fromUtf8(nm.readAllStandardError().trimmed()))};
     }
-    constexpr int mostNamed = 10;
-    Outcome outcome;
-    QStringList symbols = symbolsIn(listing);
-    for (const QString &expected : entryPoints())
-        symbols.removeAll(expected);
-    for (const QString &symbol : symbols.mid(0, mostNamed))
-        outcome.fail(QStringLiteral("exports %1").arg(symbol));
-    if (symbols.size() > mostNamed)
-        outcome.remark(QStringLiteral("and %1 more").arg(symbols.size() - mostNamed));
-    return outcome;
+    return outcomeOf(surplusSymbols(listing));
 }

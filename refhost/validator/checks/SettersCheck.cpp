@@ -17,6 +17,7 @@ QString shown(const QVariant &value)
     return text.size() <= mostUnits ? text : text.left(mostUnits) + QStringLiteral("...");
 }
 
+/// Writes odd values until one does not come back as it was.
 void checkProperty(const QString &name, Operation &operation, const QMetaProperty &property,
                    CheckContext &context, Outcome &outcome)
 {
@@ -27,11 +28,13 @@ void checkProperty(const QString &name, Operation &operation, const QMetaPropert
         context.doing(place);
         if (!property.write(&operation, value)) {
             outcome.fail(place + QStringLiteral(": not written"));
-            continue;
+            return;
         }
         const QVariant found = property.read(&operation);
-        if (found != value)
+        if (found != value) {
             outcome.fail(QStringLiteral("%1: gives back %2").arg(place, shown(found)));
+            return;
+        }
     }
 }
 
