@@ -11,17 +11,18 @@
 
 namespace {
 
-/// What a plug-in exports for Qt, and what some linkers add to every library.
-QStringList entryPoints()
+/// Whether a symbol has to be there: Qt's entry points, and what compiler and linker add to a
+/// library under the names that are reserved for them.
+bool isExpected(const QString &name)
 {
-    return {QStringLiteral("qt_plugin_instance"),
-            QStringLiteral("qt_plugin_query_metadata"),
-            QStringLiteral("qt_plugin_query_metadata_v2"),
-            QStringLiteral("_init"),
-            QStringLiteral("_fini"),
-            QStringLiteral("_edata"),
-            QStringLiteral("_end"),
-            QStringLiteral("__bss_start")};
+    static const QStringList known{QStringLiteral("qt_plugin_instance"),
+                                   QStringLiteral("qt_plugin_query_metadata"),
+                                   QStringLiteral("qt_plugin_query_metadata_v2"),
+                                   QStringLiteral("_init"),
+                                   QStringLiteral("_fini"),
+                                   QStringLiteral("_edata"),
+                                   QStringLiteral("_end")};
+    return known.contains(name) || name.startsWith(QLatin1String("__"));
 }
 
 /// A symbol that a library exports.
@@ -41,7 +42,7 @@ QList<Symbol> surplusSymbols(const QString &listing)
     QList<Symbol> symbols;
     for (auto matches = line.globalMatch(listing); matches.hasNext();) {
         const QRegularExpressionMatch match = matches.next();
-        if (!entryPoints().contains(match.captured(1)))
+        if (!isExpected(match.captured(1)))
             symbols.append({match.captured(1), weakLetters.contains(match.captured(2))});
     }
     return symbols;
