@@ -7,9 +7,12 @@
 
 #include <optional>
 
+/// That the user gave no name of a file, where one is needed.
+Problem emptyFileName(Problem::Reason reason);
+
 /// The content of the file at `path`. A problem names the file and carries the system's reason.
 Result<QByteArray> readFileBytes(const QString &path);
 
-/// Makes `bytes` the content of the file at `path`, whole or not at all: after a problem a file
-/// that was there is as it was. Only ordinary files are written, through links to them too.
+/// Makes `bytes` the content of the file at `path` as `OutputFile` writes it: whole or not at all;
+/// after a problem a file that was there is as it was.
 std::optional<Problem> writeFileBytes(const QString &path, const QByteArray &bytes);

@@ -2,6 +2,7 @@
 
 #include "refhost/engine/JsonFile.h"
 #include "refhost/engine/JsonValue.h"
+#include "refhost/engine/TaskProblem.h"
 
 #include "Operation.h"
 
@@ -21,15 +22,6 @@ QString lineName(qint64 line)
 Problem unfitRow(qint64 line, const QString &message)
 {
     return {Problem::Reason::UnfitValue, {}, lineName(line), message};
-}
-
-Problem unknownVariable(const QStringList &known)
-{
-    return {Problem::Reason::UnknownVariable,
-            {},
-            {},
-            QStringLiteral("the task has no such variable; expected %1")
-                .arg(known.join(QLatin1String(", ")))};
 }
 
 Problem memberProblem(Problem problem, const QString &name, qint64 line)
@@ -113,7 +105,7 @@ std::optional<Problem> RowRunner::takeObject(const QByteArray &row, qint64 line)
         const QString name = member.key();
         const VarType type = m_scope.typeOf(name);
         if (type == VarType::None)
-            return memberProblem(unknownVariable(m_scope.names()), name, line);
+            return unknownVariable(lineName(line), name, m_scope.names());
         const Result<QVariant> value = variantFromJson(member.value(), type);
         if (!value)
             return memberProblem(value.problem(), name, line);

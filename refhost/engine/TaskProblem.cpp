@@ -32,3 +32,13 @@ Problem unknownType(const QString &place, const QJsonValue &found, const QString
             QStringLiteral("%1; %2").arg(missing ? QStringLiteral("missing") : jsonText(found),
                                          expectedWords(known))};
 }
+
+Problem unknownVariable(const QString &place, const QString &name, const QStringList &known)
+{
+    return {Problem::Reason::UnknownVariable,
+            {},
+            place,
+            QStringLiteral("the task has no variable %1; expected %2")
+                .arg(jsonText(name), known.isEmpty() ? QStringLiteral("none at all")
+                                                     : known.join(QLatin1String(", ")))};
+}

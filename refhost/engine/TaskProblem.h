@@ -22,3 +22,6 @@ Problem emptyName(const QString &place);
 
 /// That `found`, at `place`, names none of the `known` types, or is missing.
 Problem unknownType(const QString &place, const QJsonValue &found, const QStringList &known);
+
+/// That the task, whose variables are `known`, has no variable `name`, which `place` asks for.
+Problem unknownVariable(const QString &place, const QString &name, const QStringList &known);

@@ -1,10 +1,10 @@
 #include "refhost/runner/Console.h"
 
+#include "refhost/engine/OutputFile.h"
 #include "refhost/runner/OneLine.h"
 
 #include <QJsonDocument>
 
-#include <cerrno>
 #include <cstdio>
 
 namespace {
@@ -27,11 +27,6 @@ void Console::printJson(const QJsonObject &json)
     m_results += QJsonDocument(json).toJson(QJsonDocument::Indented);
 }
 
-void Console::printBytes(const QByteArray &bytes)
-{
-    m_results += bytes;
-}
-
 void Console::note(const QString &line) const
 {
     writeAll(stderr, line.toUtf8() + '\n');
@@ -44,11 +39,11 @@ void Console::complain(const QString &message) const
 
 bool Console::flush()
 {
-    errno = 0;
-    if (writeAll(stdout, m_results)) {
+    OutputFile out(QStringLiteral("-"));
+    const auto problem = out.write(m_results);
+    if (problem)
+        complain(problem->toString());
+    else
         m_results.clear();
-        return true;
-    }
-    complain(QStringLiteral("standard output: cannot be written (%1)").arg(qt_error_string(errno)));
-    return false;
+    return !problem;
 }

@@ -15,9 +15,6 @@ public:
     /// Adds results in JSON.
     void printJson(const QJsonObject &json);
 
-    /// Adds results as they are, such as the content of a file.
-    void printBytes(const QByteArray &bytes);
-
     /// Writes one line to standard error.
     void note(const QString &line) const;
 

@@ -25,7 +25,6 @@ int ConversionCommand::runWith(const OperationCatalog &catalog, const QCommandLi
 {
     Q_UNUSED(options)
     const QString &in = arguments.at(0);
-    const QString &out = arguments.at(1);
     const Result<Task> task = TaskReader(catalog).readFile(in);
     if (!task)
         return complain(task.problem(), console);
@@ -35,9 +34,7 @@ int ConversionCommand::runWith(const OperationCatalog &catalog, const QCommandLi
         problem.file = in;
         return complain(problem, console);
     }
-    if (out == QLatin1String("-"))
-        console.printBytes(bytes.value());
-    else if (const auto problem = writeFileBytes(out, bytes.value()))
+    if (const auto problem = writeFileBytes(arguments.at(1), bytes.value()))
         return complain(*problem, console);
     return Success;
 }

@@ -2,6 +2,7 @@
 
 #include "refhost/engine/JsonValue.h"
 #include "refhost/engine/Task.h"
+#include "refhost/engine/TaskProblem.h"
 #include "refhost/runner/Options.h"
 
 #include <QCommandLineParser>
@@ -160,10 +161,5 @@ std::optional<Problem> RunOptions::findMissingVariable(const QString &option, co
         names.append(variable.name);
     if (names.contains(name))
         return std::nullopt;
-    return Problem{Problem::Reason::UnknownVariable,
-                   {},
-                   option,
-                   QStringLiteral("the task has no variable %1; expected %2")
-                       .arg(jsonText(name), names.isEmpty() ? QStringLiteral("none at all")
-                                                            : names.join(QLatin1String(", ")))};
+    return unknownVariable(option, name, names);
 }

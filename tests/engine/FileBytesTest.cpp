@@ -79,7 +79,7 @@ void FileBytesTest::cannotWrite_data()
 {
     addPaths("written");
     QTest::newRow("folder") << "."
-                            << "cannot be written (it is no ordinary file)";
+                            << "cannot be written (Filename refers to a directory)";
 }
 
 void FileBytesTest::cannotWrite()

@@ -21,6 +21,7 @@ private Q_SLOTS:
     void stopsWhenNoMoreAreWanted();
     void makesAndDeletesWorkOnItsThread();
     void withoutBatches();
+    void outOfMemory();
 };
 
 namespace {
@@ -64,13 +65,16 @@ void BatchPoolTest::keepsTheOrder()
     QList<QByteArray> taken;
     QList<QByteArray> expected;
     std::atomic<int> takers = 0;
-    BatchPool pool(workers(threads, echo), [&](const RowBatchOutcome &outcome) {
-        // One thread at a time: else the list and this number would be in trouble.
-        const bool alone = ++takers == 1;
-        taken.append(alone ? outcome.output : QByteArray("not alone"));
-        --takers;
-        return true;
-    });
+    BatchPool pool(
+        workers(threads, echo),
+        [&](const RowBatchOutcome &outcome) {
+            // One thread at a time: else the list and this number would be in trouble.
+            const bool alone = ++takers == 1;
+            taken.append(alone ? outcome.output : QByteArray("not alone"));
+            --takers;
+            return true;
+        },
+        [] {});
     for (int i = 0; i < 1000; ++i) {
         expected.append(QByteArray::number(i));
         QVERIFY(pool.add(batch(i)));
@@ -84,12 +88,15 @@ void BatchPoolTest::keepsFewBatches()
     std::atomic<int> added = 0;
     std::atomic<int> taken = 0;
     std::atomic<int> most = 0;
-    BatchPool pool(workers(3, echo), [&](const RowBatchOutcome &) {
-        std::this_thread::sleep_for(std::chrono::milliseconds(1));
-        most = std::max<int>(most, added - taken);
-        ++taken;
-        return true;
-    });
+    BatchPool pool(
+        workers(3, echo),
+        [&](const RowBatchOutcome &) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+            most = std::max<int>(most, added - taken);
+            ++taken;
+            return true;
+        },
+        [] {});
     for (int i = 0; i < 200; ++i) {
         QVERIFY(pool.add(batch(i)));
         ++added;
@@ -102,10 +109,14 @@ void BatchPoolTest::keepsFewBatches()
 void BatchPoolTest::stopsWhenNoMoreAreWanted()
 {
     QList<QByteArray> taken;
-    BatchPool pool(workers(4, echo), [&](const RowBatchOutcome &outcome) {
-        taken.append(outcome.output);
-        return taken.size() < 10;
-    });
+    std::atomic<int> stops = 0;
+    BatchPool pool(
+        workers(4, echo),
+        [&](const RowBatchOutcome &outcome) {
+            taken.append(outcome.output);
+            return taken.size() < 10;
+        },
+        [&] { ++stops; });
     qint64 number = 0;
     while (pool.add(batch(number)))
         ++number;
@@ -113,6 +124,7 @@ void BatchPoolTest::stopsWhenNoMoreAreWanted()
     QCOMPARE(taken.size(), 10);
     QCOMPARE(taken.last(), QByteArray("9"));
     QVERIFY(number >= 10);
+    QCOMPARE(int(stops), 1);
 }
 
 void BatchPoolTest::makesAndDeletesWorkOnItsThread()
@@ -133,7 +145,8 @@ void BatchPoolTest::makesAndDeletesWorkOnItsThread()
         };
     };
     {
-        BatchPool pool({maker, maker, maker}, [](const RowBatchOutcome &) { return true; });
+        BatchPool pool(
+            {maker, maker, maker}, [](const RowBatchOutcome &) { return true; }, [] {});
         for (int i = 0; i < 100; ++i)
             QVERIFY(pool.add(batch(i)));
     }
@@ -142,8 +155,33 @@ void BatchPoolTest::makesAndDeletesWorkOnItsThread()
 
 void BatchPoolTest::withoutBatches()
 {
-    BatchPool pool(workers(2, echo), [](const RowBatchOutcome &) { return true; });
+    BatchPool pool(
+        workers(2, echo), [](const RowBatchOutcome &) { return true; }, [] {});
     pool.finish();
+}
+
+void BatchPoolTest::outOfMemory()
+{
+    const BatchPool::Work failing = [](const RowBatch &given) {
+        if (given.number == 20)
+            throw std::bad_alloc();
+        return echo(given);
+    };
+    std::atomic<int> stops = 0;
+    int taken = 0;
+    BatchPool pool(
+        workers(3, failing),
+        [&](const RowBatchOutcome &) {
+            ++taken;
+            return true;
+        },
+        [&] { ++stops; });
+    qint64 number = 0;
+    while (pool.add(batch(number)))
+        ++number;
+    QVERIFY_EXCEPTION_THROWN(pool.finish(), std::bad_alloc);
+    QVERIFY(taken <= 20);
+    QCOMPARE(int(stops), 1);
 }
 
 QTEST_GUILESS_MAIN(BatchPoolTest)

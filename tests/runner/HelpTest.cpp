@@ -20,6 +20,7 @@ private Q_SLOTS:
     void examplesWork();
     void manualPageHasEverything_data();
     void manualPageHasEverything();
+    void manualPageHasNothingElse();
     void versions();
     void versionsOfBrokenPlugins();
     void completes_data();
@@ -68,7 +69,9 @@ void HelpTest::initTestCase()
     const QDir examples(EXAMPLE_FOLDER);
     for (const QString &name : examples.entryList({"*.json", "*.txt"}))
         QVERIFY(QFile::copy(examples.filePath(name), m_folder->filePath("examples/" + name)));
-    QVERIFY(QFile::copy(PLUGIN_FILE, m_folder->filePath(QFileInfo(PLUGIN_FILE).fileName())));
+    QVERIFY(QDir(m_folder->path()).mkdir("plugins"));
+    const QString pluginName = QFileInfo(PLUGIN_FILE).fileName();
+    QVERIFY(QFile::copy(PLUGIN_FILE, m_folder->filePath("plugins/" + pluginName)));
     m_commands = matches("^  ([a-z]+) ", m_folder->run({"--help"}).out);
     QVERIFY(m_commands.contains("run"));
     m_manual = readManual();
@@ -112,11 +115,24 @@ void HelpTest::manualPageHasEverything()
 {
     QFETCH(QString, command);
 
-    QVERIFY2(m_manual.contains("\n.SS oprun " + command), "the command has no section");
-    const QStringList options = matches("^  (?:-., )?(--[a-z-]+)", help(command));
-    QVERIFY(options.contains("--help"));
-    for (const QString &option : options)
-        QVERIFY2(m_manual.contains(option), qPrintable(option));
+    const QString common = m_manual.section(".SH OPTIONS", 1).section(".SH", 0, 0);
+    const QRegularExpression heading("\\n\\.SS oprun " + command + "\\b");
+    const QString section = m_manual.section(heading, 1).section("\n.S", 0, 0);
+    QStringList described = matches("(--[a-z-]+)", common + section);
+    QStringList options = matches("^  (?:-., )?(--[a-z-]+)", help(command));
+    described.removeDuplicates();
+    described.sort();
+    options.sort();
+    QCOMPARE(described, options);
+}
+
+void HelpTest::manualPageHasNothingElse()
+{
+    QStringList described = matches("^.SS oprun ([a-z]+)", m_manual);
+    described.sort();
+    QStringList commands = m_commands;
+    commands.sort();
+    QCOMPARE(described, commands);
 }
 
 void HelpTest::versions()
@@ -154,6 +170,8 @@ void HelpTest::completes_data()
     row("options of a command", {"run", "--e"}, "--each --errors");
     row("types", {"describe", "text.f"}, "text.find text.fromNumber");
     row("types after an option", {"--plugin", PLUGIN_FILE, "describe", "text.p"}, "text.pad");
+    row("types after an option with a sign", {"--plugin", "=", PLUGIN_FILE, "describe", "text.p"},
+        "text.pad");
     row("files", {"run", "examples/inv"}, "examples/invoice.json");
     row("files of an option", {"run", "--each", "exam"}, "examples");
     row("nothing for a number", {"run", "--jobs", ""}, "");

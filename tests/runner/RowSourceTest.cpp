@@ -75,11 +75,11 @@ void RowSourceTest::batches()
     QFETCH(QByteArray, content);
     QFETCH(QByteArray, lines);
 
-    RowSource source(write(content), *m_interruption);
+    RowSource source(write(content));
     QVERIFY(!source.open());
     QByteArray found;
     qint64 number = 0;
-    while (const auto batch = source.next()) {
+    while (const auto batch = source.next(*m_interruption)) {
         QCOMPARE(batch->number, number++);
         QCOMPARE(batch->firstLine, qint64(found.count('\n')) + 1);
         QVERIFY(!batch->tooLong);
@@ -88,18 +88,18 @@ void RowSourceTest::batches()
     }
     QVERIFY(!source.problem());
     QCOMPARE(found, lines);
-    QVERIFY(!source.next());
+    QVERIFY(!source.next(*m_interruption));
 }
 
 void RowSourceTest::passesOverLinesThatAreTooLong()
 {
     const int limit = 300'000;
     const QByteArray longLine(limit + 200'000, 'x');
-    RowSource source(write("a\n" + longLine + "\nb\n" + longLine), *m_interruption, limit);
+    RowSource source(write("a\n" + longLine + "\nb\n" + longLine), limit);
     QVERIFY(!source.open());
     QByteArray found;
     QList<qint64> tooLong;
-    while (const auto batch = source.next()) {
+    while (const auto batch = source.next(*m_interruption)) {
         found += batch->lines;
         if (batch->tooLong)
             tooLong.append(batch->firstLine);
@@ -111,13 +111,13 @@ void RowSourceTest::passesOverLinesThatAreTooLong()
 void RowSourceTest::longestLine()
 {
     const int limit = 300'000;
-    RowSource source(write(QByteArray(limit - 1, 'x') + "\n"), *m_interruption, limit);
+    RowSource source(write(QByteArray(limit - 1, 'x') + "\n"), limit);
     QVERIFY(!source.open());
-    const auto batch = source.next();
+    const auto batch = source.next(*m_interruption);
     QVERIFY(batch);
     QVERIFY(!batch->tooLong);
     QCOMPARE(batch->lines.size(), limit);
-    QVERIFY(!source.next());
+    QVERIFY(!source.next(*m_interruption));
 }
 
 void RowSourceTest::refuses_data()
@@ -139,7 +139,7 @@ void RowSourceTest::refuses()
     QFETCH(QString, name);
     QFETCH(QString, text);
 
-    RowSource source(name, *m_interruption);
+    RowSource source(name);
     const auto problem = source.open();
     QVERIFY(problem);
     QCOMPARE(problem->toString(), text);

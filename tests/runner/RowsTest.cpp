@@ -31,7 +31,12 @@ private Q_SLOTS:
     void answersEachRowAtOnce();
     void interrupted_data();
     void interrupted();
+    void askedTwice();
     void readerGoesAway();
+    void stopsWithoutMoreInput();
+    void errorsThatCannotBeWritten();
+    void closedInput();
+    void manyOpenFiles();
 
 private:
     std::unique_ptr<OprunFolder> m_folder;
@@ -83,6 +88,7 @@ void RowsTest::initTestCase()
     QVERIFY(m_folder->write("warn.json", warningTask));
     QVERIFY(m_folder->write("rows", "{\"n\":1}\n{\"n\":2}\r\n \t\n{}\n"));
     QVERIFY(m_folder->write("bad", badRowFile));
+    QVERIFY(QFile::link("o", m_folder->filePath("link-to-o")));
     QVERIFY(m_folder->write("lines", "b\r\n\nc d\r"));
     QByteArray many;
     for (int i = 0; i < 40'000; ++i)
@@ -237,7 +243,11 @@ void RowsTest::refuses_data()
     row("empty errors", {"--each", "rows", "--errors", ""},
         "--errors: an empty file name; expected a file");
     row("errors where the lines go", {"--each", "rows", "--out", "o", "--errors", "./o"},
-        "--errors: \"./o\" is where the lines go; expected another file");
+        "--errors: \"./o\" is the file of the lines; expected another");
+    row("errors into the rows", {"--each", "rows", "--errors", "rows"},
+        "--errors: \"rows\" is the file of the rows; expected another");
+    row("errors by a link", {"--each", "rows", "--out", "o", "--errors", "link-to-o"},
+        "--errors: \"link-to-o\" is the file of the lines; expected another");
     row("no jobs", {"--each", "rows", "--jobs", "0"},
         "--jobs: \"0\"; expected a whole number from 1 to 256");
     row("too many jobs", {"--each", "rows", "--jobs", "257"},
@@ -295,6 +305,14 @@ void RowsTest::outMayBeTheInput()
 
 void RowsTest::outMayBeADevice()
 {
+    const auto nowhere = m_folder->run(
+        {"run", "task.json", "--each", "bad", "--out", "/dev/null", "--errors", "/dev/null"});
+    QCOMPARE(nowhere.err, QString("oprun: 6 rows: 3 done, 3 failed; 0 warnings\n"));
+    QVERIFY(!QFileInfo("/dev/null").isFile());
+    const auto appended = m_folder->runShell(
+        "echo before > log; $OPRUN run task.json --each rows --print n --out /dev/stdout >> log;"
+        "cat log");
+    QCOMPARE(appended.out, QString("before\n{\"n\":1}\n{\"n\":2}\n{\"n\":3}\n"));
     const auto outcome =
         m_folder->runShell("$OPRUN run task.json --each rows --print r --out /dev/stdout | cat");
     QCOMPARE(outcome.out, lineOf("1") + lineOf("2") + lineOf("3"));
@@ -371,6 +389,62 @@ void RowsTest::readerGoesAway()
         QVERIFY2(outcome.err.endsWith("status 141\n"), qPrintable(outcome.err));
         QCOMPARE(outcome.err.count('\n'), 2);
     }
+}
+
+/// Held up by a reader that takes nothing, it does not come to look at the wish to end.
+void RowsTest::askedTwice()
+{
+    const auto outcome = m_folder->runShell(
+        "mkfifo stuck; sleep 20 < stuck & sleeper=$!;"
+        "yes {} | $OPRUN run task.json --each - > stuck 2> /dev/null & filter=$!;"
+        "sleep 1; kill -TERM $filter; sleep 0.5; kill -TERM $filter; wait $filter; echo $?;"
+        "kill $sleeper");
+    QCOMPARE(outcome.out, QString("143\n"));
+}
+
+void RowsTest::stopsWithoutMoreInput()
+{
+    for (const QString jobs : {"1", "2"}) {
+        QProcess process;
+        process.setWorkingDirectory(m_folder->path());
+        process.start(OPRUN_FILE,
+                      {"run", "task.json", "--each", "-", "--fail-fast", "--jobs", jobs});
+        QVERIFY(process.waitForStarted());
+        process.write("bad\n");
+        QVERIFY(process.waitForFinished(10'000));
+        QCOMPARE(process.exitCode(), 1);
+    }
+}
+
+void RowsTest::errorsThatCannotBeWritten()
+{
+    const auto outcome = m_folder->runShell(
+        "$OPRUN run task.json --each bad --out unwritten --errors /dev/full; echo $?");
+    QCOMPARE(outcome.out, QString("2\n"));
+    QCOMPARE(outcome.err,
+             QString("oprun: /dev/full: cannot be written (No space left on device)\n"
+                     "oprun: 5 rows: 2 done, 3 failed; 0 warnings; stopped; unwritten is not "
+                     "written\n"));
+    QVERIFY(!QFile::exists(m_folder->filePath("unwritten")));
+}
+
+void RowsTest::closedInput()
+{
+    const auto outcome =
+        m_folder->runShell("timeout 10 $OPRUN run task.json --each - <&-; echo $?");
+    QCOMPARE(outcome.out, QString("2\n"));
+    QVERIFY2(
+        outcome.err.startsWith("oprun: standard input: cannot be read (Bad file descriptor)\n"),
+        qPrintable(outcome.err));
+}
+
+void RowsTest::manyOpenFiles()
+{
+    const auto outcome =
+        m_folder->runShell("ulimit -n 4096; command -v bash > /dev/null || exit 3;"
+                           "bash -c 'for i in {10..1500}; do eval \"exec $i< task.json\"; done;"
+                           "exec \"$OPRUN\" run task.json --each rows --print n'");
+    QCOMPARE(outcome.out, QString("{\"n\":1}\n{\"n\":2}\n{\"n\":3}\n"));
 }
 
 QTEST_GUILESS_MAIN(RowsTest)

@@ -1,18 +1,32 @@
 #include "refhost/runner/rows/BatchPool.h"
 
+#include <new>
+#include <system_error>
 #include <utility>
 
-BatchPool::BatchPool(const std::vector<WorkMaker> &makers, Sink sink)
+BatchPool::BatchPool(const std::vector<WorkMaker> &makers, Sink sink, std::function<void()> stopped)
     : m_sink(std::move(sink))
+    , m_stopped(std::move(stopped))
     , m_mostWaiting(2 * makers.size() + 2)
 {
-    for (const WorkMaker &maker : makers)
-        m_threads.emplace_back([this, maker] { work(maker); });
+    startThreads(makers);
 }
 
 BatchPool::~BatchPool()
 {
-    finish();
+    joinThreads();
+}
+
+void BatchPool::startThreads(const std::vector<WorkMaker> &makers)
+{
+    m_threads.reserve(makers.size());
+    try {
+        for (const WorkMaker &maker : makers)
+            m_threads.emplace_back([this, maker] { work(maker); });
+    } catch (const std::system_error &) {
+        if (m_threads.empty())
+            throw std::bad_alloc();
+    }
 }
 
 bool BatchPool::add(RowBatch batch)
@@ -31,6 +45,13 @@ bool BatchPool::add(RowBatch batch)
 
 void BatchPool::finish()
 {
+    joinThreads();
+    if (m_isOutOfMemory)
+        throw std::bad_alloc();
+}
+
+void BatchPool::joinThreads()
+{
     {
         const std::lock_guard lock(m_mutex);
         m_isFinished = true;
@@ -43,10 +64,29 @@ void BatchPool::finish()
 
 void BatchPool::work(const WorkMaker &maker)
 {
+    try {
+        runBatches(maker);
+    } catch (const std::bad_alloc &) {
+        const std::lock_guard lock(m_mutex);
+        m_isOutOfMemory = true;
+        stop();
+    }
+}
+
+void BatchPool::runBatches(const WorkMaker &maker)
+{
     const Work run = maker();
     RowBatch batch;
     while (takeBatch(batch))
         handOver(batch.number, run(batch));
+}
+
+/// With the mutex locked.
+void BatchPool::stop()
+{
+    m_isStopped = true;
+    m_changed.notify_all();
+    m_stopped();
 }
 
 /// Waits for a batch. False when there will be none.
@@ -76,7 +116,8 @@ void BatchPool::handOver(qint64 number, RowBatchOutcome outcome)
         const bool wantsMore = m_sink(current);
         lock.lock();
         ++m_next;
-        m_isStopped = m_isStopped || !wantsMore;
         m_changed.notify_all();
+        if (!wantsMore)
+            stop();
     }
 }

@@ -23,8 +23,9 @@ public:
     /// Takes an outcome, on one thread at a time. False when no more are wanted.
     using Sink = std::function<bool(const RowBatchOutcome &)>;
 
-    /// Starts a thread for each of `makers`.
-    BatchPool(const std::vector<WorkMaker> &makers, Sink sink);
+    /// Starts a thread for each of `makers`, or as many as the system allows; throws std::bad_alloc
+    /// when it allows none. `stopped` is called, on any thread, once no more batches are wanted.
+    BatchPool(const std::vector<WorkMaker> &makers, Sink sink, std::function<void()> stopped);
 
     /// Waits for the threads.
     ~BatchPool();
@@ -33,17 +34,23 @@ public:
     /// more are wanted.
     bool add(RowBatch batch);
 
-    /// Waits until all batches are through. None may be added any more.
+    /// Waits until all batches are through. None may be added any more. Throws std::bad_alloc when
+    /// one of them did not fit into memory.
     void finish();
 
 private:
     Q_DISABLE_COPY_MOVE(BatchPool)
 
+    void startThreads(const std::vector<WorkMaker> &makers);
+    void joinThreads();
     void work(const WorkMaker &maker);
+    void runBatches(const WorkMaker &maker);
+    void stop();
     bool takeBatch(RowBatch &batch);
     void handOver(qint64 number, RowBatchOutcome outcome);
 
     const Sink m_sink;
+    const std::function<void()> m_stopped;
     const std::size_t m_mostWaiting;
     std::mutex m_mutex;
     std::condition_variable m_changed;
@@ -53,5 +60,6 @@ private:
     qint64 m_added = 0;
     bool m_isFinished = false;
     bool m_isStopped = false;
+    bool m_isOutOfMemory = false;
     std::vector<std::thread> m_threads;
 };

@@ -1,18 +1,19 @@
 #include "refhost/runner/rows/Interruption.h"
 
-#include <algorithm>
 #include <atomic>
 #include <csignal>
 
 #ifdef Q_OS_UNIX
 #    include <cerrno>
-#    include <sys/select.h>
+#    include <fcntl.h>
+#    include <poll.h>
 #    include <unistd.h>
 #endif
 
 namespace {
 
 std::atomic<bool> endRequested = false;
+std::atomic<bool> waitingEnded = false;
 
 } // namespace
 
@@ -25,26 +26,43 @@ bool Interruption::requested() const
 
 namespace {
 
-/// A pipe that can be read once the end is requested, so that waiting for input ends as well.
+/// A pipe that can be read once waiting for input is to end; -1 where there is none.
 int wakeUp[2] = {-1, -1};
+
+void wake()
+{
+    waitingEnded = true;
+    [[maybe_unused]] const auto written = write(wakeUp[1], "", 1);
+}
 
 void requestEnd(int)
 {
     const int before = errno;
     endRequested = true;
-    [[maybe_unused]] const auto written = write(wakeUp[1], "", 1);
+    wake();
     errno = before;
+}
+
+/// Moves the descriptor out of the way of standard input, output and error, which may be closed.
+int movedUp(int descriptor)
+{
+    const int moved = fcntl(descriptor, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
+    close(descriptor);
+    return moved;
 }
 
 } // namespace
 
 Interruption::Interruption()
 {
-    if (pipe(wakeUp) != 0)
-        return; // without it Ctrl-C ends the program as usual
+    if (pipe(wakeUp) == 0) {
+        wakeUp[0] = movedUp(wakeUp[0]);
+        wakeUp[1] = movedUp(wakeUp[1]);
+    }
     struct sigaction action = {};
     action.sa_handler = requestEnd;
-    action.sa_flags = SA_RESTART;
+    // The second time ends the program, which may be held up in a step or by who reads its output.
+    action.sa_flags = SA_RESTART | static_cast<int>(SA_RESETHAND);
     for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
         struct sigaction before = {};
         sigaction(signal, nullptr, &before);
@@ -57,16 +75,18 @@ Interruption::Interruption()
 
 bool Interruption::waitForInput(int descriptor) const
 {
-    fd_set descriptors;
+    // A negative descriptor is passed over.
+    pollfd descriptors[2] = {{descriptor, POLLIN, 0}, {wakeUp[0], POLLIN, 0}};
     int ready = 0;
     do {
-        FD_ZERO(&descriptors);
-        FD_SET(descriptor, &descriptors);
-        FD_SET(wakeUp[0], &descriptors);
-        ready =
-            select(std::max(descriptor, wakeUp[0]) + 1, &descriptors, nullptr, nullptr, nullptr);
-    } while (ready < 0 && errno == EINTR && !endRequested);
-    return !endRequested;
+        ready = poll(descriptors, 2, -1);
+    } while (ready < 0 && errno == EINTR && !waitingEnded);
+    return !waitingEnded;
+}
+
+void Interruption::endWaiting()
+{
+    wake();
 }
 
 #else
@@ -76,6 +96,7 @@ namespace {
 void requestEnd(int)
 {
     endRequested = true;
+    waitingEnded = true;
 }
 
 } // namespace
@@ -89,7 +110,12 @@ Interruption::Interruption()
 bool Interruption::waitForInput(int descriptor) const
 {
     Q_UNUSED(descriptor)
-    return !endRequested;
+    return !waitingEnded;
+}
+
+void Interruption::endWaiting()
+{
+    waitingEnded = true;
 }
 
 #endif

@@ -13,19 +13,19 @@ namespace {
 
 constexpr qint64 millisecondsBetween = 200;
 
-bool standardErrorIsTerminal()
+bool isTerminal(std::FILE *stream)
 {
 #ifdef Q_OS_WIN
-    return _isatty(_fileno(stderr)) != 0;
+    return _isatty(_fileno(stream)) != 0;
 #else
-    return isatty(STDERR_FILENO) != 0;
+    return isatty(fileno(stream)) != 0;
 #endif
 }
 
 } // namespace
 
-ProgressLine::ProgressLine()
-    : m_isTerminal(standardErrorIsTerminal())
+ProgressLine::ProgressLine(bool isAlone)
+    : m_isWanted(isTerminal(stderr) && (isAlone || !isTerminal(stdout)))
 {
     m_sinceStart.start();
     m_sinceShown.start();
@@ -33,7 +33,7 @@ ProgressLine::ProgressLine()
 
 void ProgressLine::show(const RowTally &tally)
 {
-    if (!m_isTerminal || m_sinceShown.elapsed() < millisecondsBetween)
+    if (!m_isWanted || m_sinceShown.elapsed() < millisecondsBetween)
         return;
     m_sinceShown.restart();
     m_isShown = true;

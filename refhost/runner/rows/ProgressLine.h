@@ -4,11 +4,13 @@
 
 #include <QElapsedTimer>
 
-/// One line on standard error that tells how far the rows are, where that is a terminal.
+/// One line on standard error that tells how far the rows are, where that is a terminal on which
+/// nothing else is printed.
 class ProgressLine
 {
 public:
-    ProgressLine();
+    /// `isAlone` is whether the lines of the rows go elsewhere than to standard output.
+    explicit ProgressLine(bool isAlone);
 
     /// Shows the line, now and then.
     void show(const RowTally &tally);
@@ -17,7 +19,7 @@ public:
     void clear();
 
 private:
-    bool m_isTerminal;
+    bool m_isWanted;
     bool m_isShown = false;
     QElapsedTimer m_sinceStart;
     QElapsedTimer m_sinceShown;

@@ -1,11 +1,12 @@
 #include "refhost/runner/rows/RowRun.h"
 
+#include "refhost/engine/FileBytes.h"
 #include "refhost/engine/JsonValue.h"
+#include "refhost/engine/OutputFile.h"
 #include "refhost/engine/Task.h"
 #include "refhost/runner/Console.h"
 #include "refhost/runner/ExitStatus.h"
 #include "refhost/runner/Options.h"
-#include "refhost/runner/OutputFile.h"
 #include "refhost/runner/RunOptions.h"
 #include "refhost/runner/rows/BatchPool.h"
 #include "refhost/runner/rows/Interruption.h"
@@ -14,9 +15,11 @@
 #include "refhost/runner/rows/RowSource.h"
 
 #include <QCommandLineParser>
+#include <QDir>
 #include <QFileInfo>
 
 #include <memory>
+#include <new>
 #include <vector>
 
 namespace {
@@ -28,22 +31,50 @@ Problem unfitOption(const QString &option, const QString &message)
     return {Problem::Reason::UnfitValue, {}, option, message};
 }
 
+/// What the name stands for once it is written to: links lead on.
+QString targetOf(const QString &name)
+{
+    const QFileInfo file(name);
+    if (file.exists())
+        return file.canonicalFilePath();
+    return QDir::cleanPath(file.isSymLink() ? file.symLinkTarget() : file.absoluteFilePath());
+}
+
+/// Whether both names stand for the same file, and that is an ordinary one.
+bool areSameFile(const QString &left, const QString &right)
+{
+    const QFileInfo file(left);
+    const bool isOrdinary = !file.exists() || file.isFile();
+    return isOrdinary && targetOf(left) == targetOf(right);
+}
+
 /// The file of errors has to have a name, and one of its own.
 std::optional<Problem> checkErrorFile(const QCommandLineParser &options, const RowRun &run)
 {
     const QString place = QStringLiteral("--errors");
-    if (options.isSet(RunOptions::errors()) && run.errors.isEmpty())
-        return unfitOption(place, QStringLiteral("an empty file name; expected a file"));
-    const auto absolute = [](const QString &file) { return QFileInfo(file).absoluteFilePath(); };
-    if (!run.errors.isEmpty() && absolute(run.errors) == absolute(run.out)) {
-        return unfitOption(place, QStringLiteral("%1 is where the lines go; expected another file")
-                                      .arg(jsonText(run.errors)));
+    if (!options.isSet(RunOptions::errors()))
+        return std::nullopt;
+    if (run.errors.isEmpty())
+        return unfitOption(place, emptyFileName(Problem::Reason::UnwritableFile).message);
+    for (const QString &other : {run.out, run.rows}) {
+        if (areSameFile(run.errors, other)) {
+            return unfitOption(
+                place, QStringLiteral("%1 is the file of the %2; expected another")
+                           .arg(jsonText(run.errors), other == run.rows ? QStringLiteral("rows")
+                                                                        : QStringLiteral("lines")));
+        }
     }
     return std::nullopt;
 }
 
+/// The first of the two that there is.
+std::optional<Problem> firstOf(std::optional<Problem> first, std::optional<Problem> second)
+{
+    return first ? std::move(first) : std::move(second);
+}
+
 /// The work of one thread on clones of its own.
-BatchPool::WorkMaker makerFor(const Task &task, const RowRun &run, const Interruption &interruption)
+BatchPool::WorkMaker makerFor(const Task &task, const RowRun &run, Interruption &interruption)
 {
     // Shared, since a function can be copied and a task cannot.
     const auto own = std::make_shared<Task>(task.clone());
@@ -54,35 +85,52 @@ BatchPool::WorkMaker makerFor(const Task &task, const RowRun &run, const Interru
     };
 }
 
-void runOnThreads(const Task &task, const RowRun &run, const Interruption &interruption,
+void runHere(const Task &task, const RowRun &run, Interruption &interruption, RowSource &source,
+             RowSink &sink)
+{
+    const BatchPool::Work work = makerFor(task, run, interruption)();
+    while (const auto batch = source.next(interruption)) {
+        if (!sink.take(work(*batch)))
+            return;
+    }
+}
+
+/// Throws std::bad_alloc, as `runHere` does, when there is not enough memory.
+void runOnThreads(const Task &task, const RowRun &run, Interruption &interruption,
                   RowSource &source, RowSink &sink)
 {
     std::vector<BatchPool::WorkMaker> makers;
     makers.reserve(static_cast<std::size_t>(run.jobs));
     for (int job = 0; job < run.jobs; ++job)
         makers.push_back(makerFor(task, run, interruption));
-    BatchPool pool(makers, [&](const RowBatchOutcome &outcome) { return sink.take(outcome); });
-    while (auto batch = source.next()) {
-        if (!pool.add(std::move(*batch)))
-            return;
+    BatchPool pool(
+        makers, [&](const RowBatchOutcome &outcome) { return sink.take(outcome); },
+        [&] { interruption.endWaiting(); });
+    bool wantsMore = true;
+    while (wantsMore) {
+        auto batch = source.next(interruption);
+        if (!batch)
+            break;
+        wantsMore = pool.add(std::move(*batch));
     }
     pool.finish();
 }
 
-void runHere(const Task &task, const RowRun &run, const Interruption &interruption,
-             RowSource &source, RowSink &sink)
+std::optional<Problem> runAll(const Task &task, const RowRun &run, Interruption &interruption,
+                              RowSource &source, RowSink &sink)
 {
-    const BatchPool::Work work = makerFor(task, run, interruption)();
-    while (const auto batch = source.next()) {
-        if (!sink.take(work(*batch)))
-            return;
+    try {
+        if (run.jobs > 1)
+            runOnThreads(task, run, interruption, source, sink);
+        else
+            runHere(task, run, interruption, source, sink);
+    } catch (const std::bad_alloc &) {
+        return Problem{Problem::Reason::UnfitValue,
+                       source.name(),
+                       {},
+                       QStringLiteral("the rows do not fit into memory")};
     }
-}
-
-/// The first of the two that there is.
-std::optional<Problem> firstOf(std::optional<Problem> first, std::optional<Problem> second)
-{
-    return first ? std::move(first) : std::move(second);
+    return firstOf(source.problem(), sink.problem());
 }
 
 /// How the rows came to an end.
@@ -161,31 +209,30 @@ Result<RowRun> rowRunFromOptions(const QCommandLineParser &options, const Task &
 
 int runRows(const Task &task, const RowRun &run, const Console &console)
 {
-    const Interruption interruption;
-    RowSource source(run.rows, interruption);
+    RowSource source(run.rows);
     OutputFile out(run.out);
     OutputFile errors(run.errors);
-    OutputFile *const errorFile = run.errors.isEmpty() ? nullptr : &errors;
+    const bool hasErrors = !run.errors.isEmpty();
     auto problem = firstOf(source.open(), out.open());
-    if (!problem && errorFile)
+    if (!problem && hasErrors)
         problem = errors.open();
     if (problem) {
         console.complain(problem->toString());
         return BadInput;
     }
-    RowSink sink(source.name(), out, errorFile, console);
-    if (run.jobs > 1)
-        runOnThreads(task, run, interruption, source, sink);
-    else
-        runHere(task, run, interruption, source, sink);
+    // Until here, where files such as pipes may have to be waited for, Ctrl-C ends the program.
+    Interruption interruption;
+    RowSink sink(source.name(), out, hasErrors ? &errors : nullptr, console);
+    problem = runAll(task, run, interruption, source, sink);
     sink.finish();
+    source.close();
 
-    RowEnd end = endOf(run, sink, firstOf(source.problem(), sink.problem()), out.readerIsGone(),
+    RowEnd end = endOf(run, sink, problem, out.readerIsGone() || errors.readerIsGone(),
                        interruption.requested());
+    if (end.keepsErrors && hasErrors && !end.problem)
+        end.problem = errors.commit();
     if (end.reason.isEmpty() && !end.problem)
         end.problem = out.commit();
-    if (end.keepsErrors && errorFile && !end.problem)
-        end.problem = errors.commit();
     if (end.problem)
         console.complain(end.problem->toString());
     console.complain(summary(sink.tally(), end, run));

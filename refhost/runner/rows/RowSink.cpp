@@ -39,6 +39,7 @@ RowSink::RowSink(const QString &source, OutputFile &out, OutputFile *errors, con
     , m_out(out)
     , m_errors(errors)
     , m_console(console)
+    , m_progress(!out.isStandardOutput())
 {
 }
 

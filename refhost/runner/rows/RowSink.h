@@ -1,7 +1,7 @@
 #pragma once
 
+#include "refhost/engine/OutputFile.h"
 #include "refhost/engine/Problem.h"
-#include "refhost/runner/OutputFile.h"
 #include "refhost/runner/rows/ProgressLine.h"
 #include "refhost/runner/rows/RowBatchOutcome.h"
 

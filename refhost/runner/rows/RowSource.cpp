@@ -1,13 +1,14 @@
 #include "refhost/runner/rows/RowSource.h"
 
+#include "refhost/engine/FileBytes.h"
 #include "refhost/runner/rows/Interruption.h"
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <utility>
 
 #ifdef Q_OS_UNIX
+#    include <cerrno>
 #    include <unistd.h>
 #endif
 
@@ -16,25 +17,42 @@ namespace {
 /// How much is read at once; also about the size of a batch.
 using Block = std::array<char, 65'536>;
 
+#ifdef Q_OS_UNIX
+
 /// Reads what is there, which may be less than a block: QFile would wait for all of it.
 qint64 readAvailable(QFile &file, Block &block)
 {
-#ifdef Q_OS_UNIX
     ssize_t size = 0;
     do {
         size = read(file.handle(), block.data(), block.size());
     } while (size < 0 && errno == EINTR);
     return size;
-#else
-    return file.read(block.data(), static_cast<qint64>(block.size()));
-#endif
 }
+
+QString reasonOf(const QFile &file)
+{
+    Q_UNUSED(file)
+    return qt_error_string(errno);
+}
+
+#else
+
+qint64 readAvailable(QFile &file, Block &block)
+{
+    return file.read(block.data(), static_cast<qint64>(block.size()));
+}
+
+QString reasonOf(const QFile &file)
+{
+    return file.errorString();
+}
+
+#endif
 
 } // namespace
 
-RowSource::RowSource(const QString &name, const Interruption &interruption, int limit)
+RowSource::RowSource(const QString &name, int limit)
     : m_name(name)
-    , m_interruption(interruption)
     , m_limit(limit)
 {
 }
@@ -46,12 +64,8 @@ QString RowSource::name() const
 
 std::optional<Problem> RowSource::open()
 {
-    if (m_name.isEmpty()) {
-        return Problem{Problem::Reason::UnreadableFile,
-                       {},
-                       {},
-                       QStringLiteral("an empty file name; expected a file")};
-    }
+    if (m_name.isEmpty())
+        return emptyFileName(Problem::Reason::UnreadableFile);
     constexpr int standardInput = 0;
     const QIODevice::OpenMode mode = QIODevice::ReadOnly | QIODevice::Unbuffered;
     m_file.setFileName(m_name);
@@ -70,10 +84,10 @@ Problem RowSource::unreadable(const QString &reason) const
             QStringLiteral("cannot be read (%1)").arg(reason)};
 }
 
-std::optional<RowBatch> RowSource::next()
+std::optional<RowBatch> RowSource::next(const Interruption &interruption)
 {
     while (!m_block.isEmpty() || !m_atEnd) {
-        if (m_block.isEmpty() && !readBlock())
+        if (m_block.isEmpty() && !readBlock(interruption))
             return std::nullopt;
         if (auto batch = takeLines())
             return batch;
@@ -82,16 +96,16 @@ std::optional<RowBatch> RowSource::next()
 }
 
 /// False when there will be no more batches.
-bool RowSource::readBlock()
+bool RowSource::readBlock(const Interruption &interruption)
 {
-    if (!m_interruption.waitForInput(m_file.handle()))
+    if (!interruption.waitForInput(m_file.handle()))
         return false;
     Block block;
     const qint64 size = readAvailable(m_file, block);
     m_block = QByteArray(block.data(), static_cast<int>(std::max<qint64>(size, 0)));
     m_atEnd = size == 0;
     if (size < 0)
-        m_problem = unreadable(qt_error_string(errno));
+        m_problem = unreadable(reasonOf(m_file));
     return size >= 0;
 }
 

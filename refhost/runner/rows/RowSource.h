@@ -19,9 +19,9 @@ public:
     /// About the most bytes a row may have.
     static constexpr int longestRow = 256 * 1024 * 1024;
 
-    /// Reads the file called `name`, or standard input for "-", until it ends or is interrupted. A
-    /// line of more than `limit` bytes is passed over as soon as a block of it is too much.
-    RowSource(const QString &name, const Interruption &interruption, int limit = longestRow);
+    /// Reads the file called `name`, or standard input for "-". A line of more than `limit` bytes
+    /// is passed over as soon as a block of it is too much.
+    explicit RowSource(const QString &name, int limit = longestRow);
 
     /// How problems call the source.
     QString name() const;
@@ -29,8 +29,12 @@ public:
     /// Opens it. A problem tells why it cannot be read.
     std::optional<Problem> open();
 
-    /// The next batch; nothing at the end, after an interruption, or with a problem.
-    std::optional<RowBatch> next();
+    /// The next batch; nothing at the end, when the interruption ends the waiting for it, or with a
+    /// problem.
+    std::optional<RowBatch> next(const Interruption &interruption);
+
+    /// Lets go of the file, so that another can take its place.
+    void close() { m_file.close(); }
 
     /// Why reading ended before the end, if it did.
     const std::optional<Problem> &problem() const { return m_problem; }
@@ -39,14 +43,13 @@ private:
     Q_DISABLE_COPY_MOVE(RowSource)
 
     Problem unreadable(const QString &reason) const;
-    bool readBlock();
+    bool readBlock(const Interruption &interruption);
     std::optional<RowBatch> takeLines();
     std::optional<RowBatch> takeRest();
     RowBatch batchOf(const QByteArray &lines);
     void keepForLater();
 
     QString m_name;
-    const Interruption &m_interruption;
     int m_limit;
     QFile m_file;
     QByteArray m_block; ///< read, and not looked at yet

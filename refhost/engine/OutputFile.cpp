@@ -1,4 +1,6 @@
-#include "refhost/runner/OutputFile.h"
+#include "refhost/engine/OutputFile.h"
+
+#include "refhost/engine/FileBytes.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -21,7 +23,8 @@ QString OutputFile::name() const
 
 bool OutputFile::isStandardOutput() const
 {
-    return m_name == QLatin1String("-");
+    // It may lead to an ordinary file, which is not to be replaced.
+    return m_name == QLatin1String("-") || m_name == QLatin1String("/dev/stdout");
 }
 
 Problem OutputFile::unwritable(const QString &reason) const
@@ -36,12 +39,8 @@ std::optional<Problem> OutputFile::open()
 {
     if (isStandardOutput())
         return std::nullopt;
-    if (m_name.isEmpty()) {
-        return Problem{Problem::Reason::UnwritableFile,
-                       {},
-                       {},
-                       QStringLiteral("an empty file name; expected a file")};
-    }
+    if (m_name.isEmpty())
+        return emptyFileName(Problem::Reason::UnwritableFile);
     const QFileInfo there(m_name);
     // A device or a pipe is written to, not replaced.
     if (there.exists() && !there.isFile() && !there.isDir())
@@ -57,7 +56,8 @@ std::optional<Problem> OutputFile::write(const QByteArray &bytes)
 {
     if (isStandardOutput())
         return writeToStandardOutput(bytes);
-    if (m_file->write(bytes) != bytes.size())
+    const bool isHeldBack = qobject_cast<QSaveFile *>(m_file.get()) != nullptr;
+    if (m_file->write(bytes) != bytes.size() || (!isHeldBack && !m_file->flush()))
         return unwritable(m_file->errorString());
     return std::nullopt;
 }

@@ -9,12 +9,12 @@
 #include <memory>
 #include <optional>
 
-/// A file that appears whole, with `commit`, or not at all; or standard output, which is written as
-/// it comes.
+/// A file that appears whole, with `commit`, or not at all, in the place of one that was there.
+/// What is no ordinary file, such as a pipe, is written as it comes, and so is standard output.
 class OutputFile
 {
 public:
-    /// `name` is that of a file, or "-" for standard output.
+    /// `name` is that of a file, or "-" for standard output. A link stands for what it leads to.
     explicit OutputFile(const QString &name);
     ~OutputFile();
 
@@ -24,8 +24,11 @@ public:
     /// Opens it. A problem tells why it cannot be written.
     std::optional<Problem> open();
 
-    /// Adds to it; standard output has it afterwards. A problem tells why it cannot be written.
+    /// Adds to it. A problem tells why it cannot be written.
     std::optional<Problem> write(const QByteArray &bytes);
+
+    /// Whether it is standard output.
+    bool isStandardOutput() const;
 
     /// Whether writing failed because whoever read standard output has gone.
     bool readerIsGone() const { return m_readerIsGone; }
@@ -36,7 +39,6 @@ public:
 private:
     Q_DISABLE_COPY_MOVE(OutputFile)
 
-    bool isStandardOutput() const;
     std::optional<Problem> writeToStandardOutput(const QByteArray &bytes);
     Problem unwritable(const QString &reason) const;
 
