@@ -2,9 +2,12 @@
 
 #include "refhost/validator/checks/AcceptanceCheck.h"
 #include "refhost/validator/checks/ChoicesCheck.h"
+#include "refhost/validator/checks/CloneCheck.h"
+#include "refhost/validator/checks/CloneLifeCheck.h"
 #include "refhost/validator/checks/ConditionsCheck.h"
 #include "refhost/validator/checks/DefaultsCheck.h"
 #include "refhost/validator/checks/EditorsCheck.h"
+#include "refhost/validator/checks/ExceptionsCheck.h"
 #include "refhost/validator/checks/ExportsCheck.h"
 #include "refhost/validator/checks/IconFilesCheck.h"
 #include "refhost/validator/checks/IconPicturesCheck.h"
@@ -16,17 +19,28 @@
 #include "refhost/validator/checks/LoadingCheck.h"
 #include "refhost/validator/checks/ManifestCheck.h"
 #include "refhost/validator/checks/MembersCheck.h"
+#include "refhost/validator/checks/MessagesCheck.h"
 #include "refhost/validator/checks/MetadataCheck.h"
 #include "refhost/validator/checks/PropertiesCheck.h"
 #include "refhost/validator/checks/PrototypesCheck.h"
 #include "refhost/validator/checks/QtVersionCheck.h"
+#include "refhost/validator/checks/RandomRecordsCheck.h"
+#include "refhost/validator/checks/RecordCheck.h"
+#include "refhost/validator/checks/RecordFormsCheck.h"
 #include "refhost/validator/checks/ReloadCheck.h"
+#include "refhost/validator/checks/RepetitionCheck.h"
 #include "refhost/validator/checks/RestrictionsCheck.h"
+#include "refhost/validator/checks/ResultTypesCheck.h"
 #include "refhost/validator/checks/ResultVariableCheck.h"
 #include "refhost/validator/checks/SettersCheck.h"
+#include "refhost/validator/checks/SummaryCheck.h"
 #include "refhost/validator/checks/TextsCheck.h"
+#include "refhost/validator/checks/TruncatedRecordsCheck.h"
 #include "refhost/validator/checks/TypeIdsCheck.h"
 #include "refhost/validator/checks/WeightsCheck.h"
+#include "refhost/validator/checks/WithoutResultCheck.h"
+#include "refhost/validator/checks/WithoutScopeCheck.h"
+#include "refhost/validator/checks/WritesCheck.h"
 
 namespace {
 
@@ -52,6 +66,10 @@ Checks allChecks()
     // Level 3: annotations and properties.
     add<KeysCheck, EditorsCheck, RestrictionsCheck, ChoicesCheck, ConditionsCheck, PropertiesCheck,
         SettersCheck, IndependenceCheck, DefaultsCheck, ResultVariableCheck, MembersCheck>(checks);
+    // Level 4: what operations do.
+    add<WithoutScopeCheck, WithoutResultCheck, ResultTypesCheck, WritesCheck, RepetitionCheck,
+        MessagesCheck, ExceptionsCheck, CloneCheck, CloneLifeCheck, SummaryCheck, RecordCheck,
+        RecordFormsCheck, TruncatedRecordsCheck, RandomRecordsCheck>(checks);
     return checks;
 }
 

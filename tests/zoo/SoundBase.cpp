@@ -28,7 +28,7 @@ void SoundBase::doOperation() const
 {
     if (!scope)
         return;
-    if (scope->typeOf(resultVar()) == VarType::String)
+    if (!resultVar().isEmpty() && scope->typeOf(resultVar()) == VarType::String)
         scope->set(resultVar(), result());
     else
         QMessageLogger().warning("[Sound] no such string variable");
