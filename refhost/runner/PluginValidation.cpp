@@ -38,7 +38,7 @@ QList<CheckReport> validatePlugin(const QString &file, const Probe &probe,
                 reports.append({check, Outcome(Verdict::Skipped, reason), 0});
             continue;
         }
-        const CheckReport report = probe.run(check, file, options.seed, options.timeoutSeconds);
+        const CheckReport report = probe.run(check, file, options);
         const bool passed = report.outcome.verdict() == Verdict::Passed;
         if (passed)
             ground = std::max(ground, check.provides);

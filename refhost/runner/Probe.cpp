@@ -1,6 +1,7 @@
 #include "refhost/runner/Probe.h"
 
 #include "refhost/engine/JsonFile.h"
+#include "refhost/runner/ValidateOptions.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -153,8 +154,8 @@ Result<Probe> Probe::find()
     return probe;
 }
 
-CheckReport Probe::run(const CheckInfo &check, const QString &file, quint32 seed,
-                       int timeoutSeconds) const
+CheckReport Probe::run(const CheckInfo &check, const QString &file,
+                       const ValidateOptions &options) const
 {
     QElapsedTimer timer;
     timer.start();
@@ -163,10 +164,11 @@ CheckReport Probe::run(const CheckInfo &check, const QString &file, quint32 seed
     const QString progressFile = folder.filePath(QStringLiteral("progress.txt"));
     QProcess process;
     const LastWords lastWords(process);
-    process.start(m_program, {check.id, file, QStringLiteral("--seed"), QString::number(seed),
-                              QStringLiteral("--result"), resultFile, QStringLiteral("--progress"),
-                              progressFile});
-    Outcome outcome = awaitOutcome(process, resultFile, timeoutSeconds);
+    process.start(m_program,
+                  {check.id, file, QStringLiteral("--seed"), QString::number(options.seed),
+                   QStringLiteral("--result"), resultFile, QStringLiteral("--progress"),
+                   progressFile, QStringLiteral("--keep"), options.keepFolder});
+    Outcome outcome = awaitOutcome(process, resultFile, options.timeoutSeconds);
     if (outcome.verdict() == Verdict::Crashed || outcome.verdict() == Verdict::TimedOut)
         addCircumstances(outcome, progressFile, lastWords);
     return {check, outcome, timer.elapsed()};

@@ -7,6 +7,8 @@
 #include <QList>
 #include <QString>
 
+struct ValidateOptions;
+
 /// One check of a report.
 struct CheckReport
 {
@@ -25,10 +27,10 @@ public:
     /// The checks it knows, in their order.
     const QList<CheckInfo> &checks() const { return m_checks; }
 
-    /// Runs a check on the plug-in `file` in a new process, which is ended after `timeoutSeconds`.
+    /// Runs a check on the plug-in `file` in a new process, which is ended when its time is over.
     /// Whatever the plug-in does to that process is an outcome.
-    CheckReport run(const CheckInfo &check, const QString &file, quint32 seed,
-                    int timeoutSeconds) const;
+    CheckReport run(const CheckInfo &check, const QString &file,
+                    const ValidateOptions &options) const;
 
 private:
     Probe() = default;

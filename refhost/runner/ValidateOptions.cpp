@@ -4,6 +4,8 @@
 #include "refhost/runner/Options.h"
 
 #include <QCommandLineParser>
+#include <QDir>
+#include <QFileInfo>
 
 #include <limits>
 
@@ -42,6 +44,14 @@ QCommandLineOption timeoutOption()
             QStringLiteral("SECONDS"), QStringLiteral("60")};
 }
 
+QCommandLineOption keepOption()
+{
+    return {QStringLiteral("keep"),
+            QStringLiteral("Leave tasks that show what is wrong in this folder, by default the "
+                           "one for temporary files."),
+            QStringLiteral("FOLDER"), QDir::tempPath()};
+}
+
 /// The whole number an option gives, from `least` to `most`.
 Result<quint32> numberOf(const QCommandLineParser &parser, const QCommandLineOption &option,
                          quint32 least, quint32 most)
@@ -65,7 +75,7 @@ Result<quint32> numberOf(const QCommandLineParser &parser, const QCommandLineOpt
 void ValidateOptions::addTo(QCommandLineParser &parser)
 {
     parser.addOptions({levelOption(), onlyOption(), listOption(), Options::json(), seedOption(),
-                       timeoutOption()});
+                       timeoutOption(), keepOption()});
 }
 
 Result<ValidateOptions> ValidateOptions::read(const QCommandLineParser &parser)
@@ -77,7 +87,15 @@ Result<ValidateOptions> ValidateOptions::read(const QCommandLineParser &parser)
         if (!number)
             return number.problem();
     }
+    const QString folder = parser.value(keepOption());
+    if (!QFileInfo(folder).isDir()) {
+        return Problem{Problem::Reason::UnfitValue,
+                       {},
+                       QStringLiteral("--keep"),
+                       QStringLiteral("%1; expected a folder").arg(jsonText(folder))};
+    }
     ValidateOptions options;
+    options.keepFolder = QFileInfo(folder).absoluteFilePath();
     options.list = parser.isSet(listOption());
     options.json = parser.isSet(Options::json());
     options.level = static_cast<int>(level.value());

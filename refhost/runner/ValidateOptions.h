@@ -15,6 +15,7 @@ struct ValidateOptions
     QStringList only; ///< the identifiers of the checks to run whatever their level; empty for all
     quint32 seed = 1;
     int timeoutSeconds = 60;
+    QString keepFolder; ///< where the tasks are left that show what is wrong
 
     static void addTo(QCommandLineParser &parser);
 

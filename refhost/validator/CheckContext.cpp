@@ -7,9 +7,11 @@
 
 #include <QPluginLoader>
 
-CheckContext::CheckContext(const QString &file, quint32 seed, const QString &progressFile)
+CheckContext::CheckContext(const QString &file, quint32 seed, const QString &progressFile,
+                           const QString &keepFolder)
     : m_file(file)
     , m_seed(seed)
+    , m_keepFolder(keepFolder)
     , m_progress(progressFile)
 {
 }

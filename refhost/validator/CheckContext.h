@@ -18,13 +18,18 @@ class QObject;
 class CheckContext
 {
 public:
-    /// `file` is the absolute path of the plug-in; `progressFile` may be empty.
-    CheckContext(const QString &file, quint32 seed, const QString &progressFile);
+    /// `file` is the absolute path of the plug-in; `progressFile` may be empty. In `keepFolder` a
+    /// check leaves tasks that show what is wrong.
+    CheckContext(const QString &file, quint32 seed, const QString &progressFile,
+                 const QString &keepFolder);
 
     const QString &file() const { return m_file; }
 
     /// Where random values start from; the same seed gives the same check.
     quint32 seed() const { return m_seed; }
+
+    /// The folder for tasks that show what is wrong.
+    const QString &keepFolder() const { return m_keepFolder; }
 
     /// Notes what is done next, for instance "text.pad: saveOperation".
     void doing(const QString &activity) { m_progress.note(activity); }
@@ -50,6 +55,7 @@ public:
 private:
     QString m_file;
     quint32 m_seed;
+    QString m_keepFolder;
     Progress m_progress;
     QObject *m_root = nullptr;
     IOperationPlugin *m_plugin = nullptr;

@@ -15,12 +15,15 @@
 #include "refhost/validator/checks/IndependenceCheck.h"
 #include "refhost/validator/checks/InterfaceIdCheck.h"
 #include "refhost/validator/checks/KeysCheck.h"
+#include "refhost/validator/checks/LargeTextsCheck.h"
 #include "refhost/validator/checks/LoadTimeCheck.h"
 #include "refhost/validator/checks/LoadingCheck.h"
+#include "refhost/validator/checks/LocalesCheck.h"
 #include "refhost/validator/checks/ManifestCheck.h"
 #include "refhost/validator/checks/MembersCheck.h"
 #include "refhost/validator/checks/MessagesCheck.h"
 #include "refhost/validator/checks/MetadataCheck.h"
+#include "refhost/validator/checks/NestingCheck.h"
 #include "refhost/validator/checks/PropertiesCheck.h"
 #include "refhost/validator/checks/PrototypesCheck.h"
 #include "refhost/validator/checks/QtVersionCheck.h"
@@ -33,8 +36,10 @@
 #include "refhost/validator/checks/ResultTypesCheck.h"
 #include "refhost/validator/checks/ResultVariableCheck.h"
 #include "refhost/validator/checks/SettersCheck.h"
+#include "refhost/validator/checks/StepsCheck.h"
 #include "refhost/validator/checks/SummaryCheck.h"
 #include "refhost/validator/checks/TextsCheck.h"
+#include "refhost/validator/checks/ThreadsCheck.h"
 #include "refhost/validator/checks/TruncatedRecordsCheck.h"
 #include "refhost/validator/checks/TypeIdsCheck.h"
 #include "refhost/validator/checks/WeightsCheck.h"
@@ -70,6 +75,8 @@ Checks allChecks()
     add<WithoutScopeCheck, WithoutResultCheck, ResultTypesCheck, WritesCheck, RepetitionCheck,
         MessagesCheck, ExceptionsCheck, CloneCheck, CloneLifeCheck, SummaryCheck, RecordCheck,
         RecordFormsCheck, TruncatedRecordsCheck, RandomRecordsCheck>(checks);
+    // Level 5: what they do under attack.
+    add<StepsCheck, NestingCheck, LargeTextsCheck, ThreadsCheck, LocalesCheck>(checks);
     return checks;
 }
 

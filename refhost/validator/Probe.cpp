@@ -5,6 +5,7 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -24,6 +25,7 @@ struct ProbeTask
     quint32 seed = 1;
     QString resultFile;
     QString progressFile;
+    QString keepFolder;
 };
 
 const QCommandLineOption &listOption()
@@ -55,6 +57,14 @@ const QCommandLineOption &progressOption()
     static const QCommandLineOption option(
         QStringLiteral("progress"), QStringLiteral("Note in this file what is just being done."),
         QStringLiteral("FILE"));
+    return option;
+}
+
+const QCommandLineOption &keepOption()
+{
+    static const QCommandLineOption option(
+        QStringLiteral("keep"), QStringLiteral("Leave tasks that show what is wrong here."),
+        QStringLiteral("FOLDER"), QDir::tempPath());
     return option;
 }
 
@@ -99,7 +109,7 @@ bool writeOutcome(const Outcome &outcome, const QString &resultFile)
 {
     const auto application = check.makeApplication(argc, argv);
     Q_UNUSED(application)
-    CheckContext context(task.plugin, task.seed, task.progressFile);
+    CheckContext context(task.plugin, task.seed, task.progressFile, task.keepFolder);
     const bool written = writeOutcome(perform(check, context), task.resultFile);
     std::_Exit(written ? EXIT_SUCCESS : usageStatus);
 }
@@ -123,7 +133,7 @@ int usageError(const QString &message)
 int runProbe(int argc, char *argv[])
 {
     QCommandLineParser parser;
-    parser.addOptions({listOption(), seedOption(), resultOption(), progressOption()});
+    parser.addOptions({listOption(), seedOption(), resultOption(), progressOption(), keepOption()});
     if (!parser.parse(argumentList(argc, argv)))
         return usageError(parser.errorText());
     if (parser.isSet(listOption())) {
@@ -142,5 +152,6 @@ int runProbe(int argc, char *argv[])
     task.seed = parser.value(seedOption()).toUInt();
     task.resultFile = parser.value(resultOption());
     task.progressFile = parser.value(progressOption());
+    task.keepFolder = parser.value(keepOption());
     runCheck(*check, task, argc, argv);
 }

@@ -23,32 +23,43 @@ constexpr bool hasSanitizer()
 #endif
 }
 
-} // namespace
-
 #ifdef Q_OS_LINUX
 
-std::optional<QString> limitMemory(int mebibytes)
+/// The address space this process has taken, in bytes; 0 when the system does not tell.
+rlim_t addressSpace()
 {
-    if (hasSanitizer())
-        return QStringLiteral("memory cannot be limited under a sanitizer");
-    constexpr rlim_t mebi = 1 << 20;
     QFile file(QStringLiteral("/proc/self/statm"));
     if (!file.open(QIODevice::ReadOnly))
-        return QStringLiteral("%1: %2").arg(file.fileName(), file.errorString());
+        return 0;
     const rlim_t pages = file.readAll().split(' ').constFirst().toULong();
-    const rlim_t bytes =
-        pages * static_cast<rlim_t>(sysconf(_SC_PAGESIZE)) + static_cast<rlim_t>(mebibytes) * mebi;
-    const rlimit limit{bytes, RLIM_INFINITY};
-    if (setrlimit(RLIMIT_AS, &limit) != 0)
-        return QStringLiteral("the system does not let memory be limited");
-    return std::nullopt;
-}
-
-#else
-
-std::optional<QString> limitMemory(int)
-{
-    return QStringLiteral("memory cannot be limited on this system");
+    return pages * static_cast<rlim_t>(sysconf(_SC_PAGESIZE));
 }
 
 #endif
+
+} // namespace
+
+std::optional<QString> memoryLimitObstacle()
+{
+    if (hasSanitizer())
+        return QStringLiteral("memory cannot be limited under a sanitizer");
+#ifdef Q_OS_LINUX
+    return addressSpace() > 0 ? std::nullopt
+                              : std::optional<QString>(QStringLiteral("/proc cannot be read"));
+#else
+    return QStringLiteral("memory cannot be limited on this system");
+#endif
+}
+
+void limitMemory(int mebibytes)
+{
+    if (memoryLimitObstacle())
+        return;
+#ifdef Q_OS_LINUX
+    constexpr rlim_t mebi = 1 << 20;
+    const rlimit limit{addressSpace() + static_cast<rlim_t>(mebibytes) * mebi, RLIM_INFINITY};
+    setrlimit(RLIMIT_AS, &limit);
+#else
+    Q_UNUSED(mebibytes)
+#endif
+}
