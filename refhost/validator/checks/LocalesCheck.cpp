@@ -108,6 +108,7 @@ void LocalesCheck::examine(Specimen &specimen, CheckContext &context) const
     }
     QLocale::setDefault(QLocale::c());
     dependent.removeDuplicates();
+    dependent.sort();
     if (!dependent.isEmpty()) {
         specimen.remark(QStringLiteral("depend on the locale: ") +
                         dependent.join(QLatin1String(", ")));
