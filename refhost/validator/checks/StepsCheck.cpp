@@ -55,6 +55,8 @@ void StepsCheck::examine(Specimen &specimen, CheckContext &context) const
     limitMemory(mebibytes);
     RandomSource source(context.seed(), specimen.name());
     KeptTask file(context, info().id, specimen.name());
+    if (!file.problem().isEmpty())
+        specimen.remark(QStringLiteral("the task cannot be kept: ") + file.problem());
     specimen.doing(QStringLiteral("a random step; to see it again: ") + file.commandLine());
     for (int i = 0; i < stepCount; ++i) {
         const Task task = randomTask(source, specimen);

@@ -41,6 +41,12 @@ KeptTask::KeptTask(const CheckContext &context, const QString &checkId, const QS
     m_file.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
 }
 
+QString KeptTask::problem() const
+{
+    return m_file.isOpen() ? QString()
+                           : QStringLiteral("%1: %2").arg(m_file.fileName(), m_file.errorString());
+}
+
 void KeptTask::write(const Task &task)
 {
     // Without a catalogue, which the plug-in may not be fit for, all properties are written.

@@ -15,8 +15,8 @@ public:
     /// the operation.
     KeptTask(const CheckContext &context, const QString &checkId, const QString &typeId);
 
-    /// Whether the file can be written.
-    bool isOpen() const { return m_file.isOpen(); }
+    /// Why the file cannot be written, empty when it can.
+    QString problem() const;
 
     /// Replaces the task in the file.
     void write(const Task &task);
