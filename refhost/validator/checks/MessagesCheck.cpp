@@ -16,16 +16,18 @@ void examineMessage(Specimen &specimen, const QString &place, const LoggedMessag
 {
     static const QRegularExpression tag(QStringLiteral("^\\[[^\\]\\s]+\\]"));
     const QString said = QStringLiteral("%1: %2").arg(place, shownText(message.text));
-    if (message.type != QtWarningMsg)
+    if (message.type != QtWarningMsg) {
         specimen.fail(QStringLiteral("%1 is a %2 message; expected warnings only")
                           .arg(said, message.typeWord()));
-    else if (message.text.contains(QLatin1Char('\n')))
+    } else if (message.text.contains(QLatin1Char('\n'))) {
         specimen.fail(said + QStringLiteral(" is more than one line"));
-    else if (!tag.match(message.text).hasMatch())
+    } else if (!tag.match(message.text).hasMatch()) {
         specimen.warn(said + QStringLiteral(" does not begin with a tag such as \"[Tag]\""));
-    if (!message.place.isEmpty())
+    }
+    if (!message.place.isEmpty()) {
         specimen.warn(QStringLiteral("%1 names its place in the source, %2")
                           .arg(said, message.place.section(QLatin1Char('/'), -1)));
+    }
 }
 
 void examineRuns(Specimen &specimen)

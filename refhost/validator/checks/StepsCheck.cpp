@@ -28,8 +28,8 @@ QString faultOf(const Specimen &specimen, const Task &task)
     const VariableScope before = task.startScope();
     VariableScope first = before;
     const StepTrace trace = traceStep(step, first);
-    const QString rule = brokenRule(specimen, trace, step.property("resultVar").toString(),
-                                    differingNames(first, before));
+    QString rule = brokenRule(specimen, trace, step.property("resultVar").toString(),
+                              differingNames(first, before));
     if (!rule.isEmpty())
         return rule;
     VariableScope second = before;

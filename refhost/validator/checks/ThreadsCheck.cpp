@@ -35,6 +35,7 @@ Tasks makeTasks(Specimen &specimen, quint32 seed)
 {
     RandomSource source(seed, specimen.name());
     Tasks tasks;
+    tasks.reserve(taskCount);
     for (int i = 0; i < taskCount; ++i)
         tasks.push_back(randomTask(source, specimen));
     return tasks;
@@ -95,6 +96,7 @@ void ThreadsCheck::examine(Specimen &specimen, CheckContext &context) const
     limitMemory(mebibytes);
     specimen.doing(QStringLiteral("doOperation of random steps on one thread"));
     std::vector<Tasks> tasks;
+    tasks.reserve(threadCount);
     for (int i = 0; i < threadCount; ++i)
         tasks.push_back(makeTasks(specimen, context.seed()));
     std::vector<Expectation> expected;
