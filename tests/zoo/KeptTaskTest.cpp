@@ -81,7 +81,7 @@ void KeptTaskTest::crashHappensAgain()
 
 void KeptTaskTest::endlessLoopIsLeft()
 {
-    const OprunOutcome outcome = attack("LoopOnMark", {"--timeout", "2"});
+    const OprunOutcome outcome = attack("LoopOnMark", {"--timeout", "5"});
     QCOMPARE(outcome.status, 4);
     QVERIFY2(outcome.out.contains(keptFile()), qPrintable(outcome.out));
     QVERIFY(keptTask().contains("\u202E"));
