@@ -1,6 +1,6 @@
 #include "refhost/validator/trials/SampleScope.h"
 
-#include "refhost/validator/trials/SameValue.h"
+#include "refhost/engine/ExactValue.h"
 
 namespace {
 
