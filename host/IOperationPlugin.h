@@ -50,8 +50,12 @@ class Operation;
 ///
 ///         void doOperation() const override
 ///         {
-///             if (scope && scope->typeOf(m_resultVar) == VarType::String)
+///             if (!scope)
+///                 return;
+///             if (!m_resultVar.isEmpty() && scope->typeOf(m_resultVar) == VarType::String)
 ///                 scope->set(m_resultVar, QStringLiteral("你好，") + m_who);
+///             else
+///                 QMessageLogger().warning() << "[Greet] 没有可写入的字符串变量" << m_resultVar;
 ///         }
 ///         void saveOperation(QDataStream &stream) const override
 ///         {

@@ -19,6 +19,7 @@ function(extract_example interface output)
 #include \"VariableScope.h\"
 
 #include <QDataStream>
+#include <QDebug>
 
 @code@
 ")

@@ -21,3 +21,9 @@ execute_process(COMMAND ${WORK_DIR}/second/bin/oprun validate --only file.loads 
 if(result)
     message(FATAL_ERROR "oprun validate from the installed tree gave ${result}\n${output}")
 endif()
+
+foreach(file share/man/man1/oprun.1 share/bash-completion/completions/oprun)
+    if(NOT EXISTS ${WORK_DIR}/second/${file})
+        message(FATAL_ERROR "the installed tree has no ${file}")
+    endif()
+endforeach()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tests/support/OprunProcess.h"
+
 #include <QByteArray>
 #include <QMap>
 #include <QString>
@@ -10,15 +12,7 @@
 class OprunFolder
 {
 public:
-    /// What a run printed, and its exit status; -1, with the reason in `err`, when it did not end
-    /// by itself.
-    struct Outcome
-    {
-        int status = -1;
-        QByteArray bytes; ///< standard output as it is
-        QString out;      ///< standard output as text
-        QString err;
-    };
+    using Outcome = OprunOutcome;
 
     /// `program` is the file of oprun.
     explicit OprunFolder(QString program);
@@ -39,9 +33,6 @@ public:
     QByteArray read(const QString &name) const;
 
 private:
-    Outcome start(const QString &program, const QStringList &arguments,
-                  const QMap<QString, QString> &environment) const;
-
     QTemporaryDir m_folder;
     QString m_program;
 };

@@ -14,7 +14,8 @@ OprunOutcome runProgram(const QString &oprun, const QStringList &arguments, cons
     process.setProcessEnvironment(variables);
     process.start(oprun, arguments);
     if (!process.waitForFinished(tenMinutes) || process.exitStatus() != QProcess::NormalExit)
-        return {-1, {}, process.errorString()};
-    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+        return {-1, {}, {}, process.errorString()};
+    const QByteArray bytes = process.readAllStandardOutput();
+    return {process.exitCode(), bytes, QString::fromUtf8(bytes),
             QString::fromUtf8(process.readAllStandardError())};
 }

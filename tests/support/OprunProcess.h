@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QMap>
 #include <QString>
 #include <QStringList>
@@ -7,8 +8,9 @@
 /// What a run of oprun printed and how it ended.
 struct OprunOutcome
 {
-    int status = -1; ///< -1 when it did not end by itself
-    QString out;
+    int status = -1;  ///< -1, with the reason in `err`, when it did not end by itself
+    QByteArray bytes; ///< standard output as it is
+    QString out;      ///< standard output as text
     QString err;
 };
 

@@ -1,6 +1,6 @@
 #include "refhost/validator/trials/SampleScope.h"
 
-#include "refhost/engine/ExactValue.h"
+#include "refhost/validator/trials/EqualValue.h"
 
 namespace {
 
@@ -70,7 +70,7 @@ QStringList differingNames(const VariableScope &left, const VariableScope &right
     QStringList differing;
     for (const QString &name : qAsConst(names)) {
         if (left.typeOf(name) != right.typeOf(name) ||
-            !isSameValue(left.get(name), right.get(name)))
+            !isEqualValue(left.get(name), right.get(name)))
             differing.append(name);
     }
     return differing;
