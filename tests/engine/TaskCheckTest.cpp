@@ -190,6 +190,26 @@ void TaskCheckTest::references_data()
     textRow("number of a text", "$line.Count", "error path-without-list");
     textRow("any member of a number", "$count.x", "error path-without-list");
     operandRow("number of a number", "size", "$count.Count", "error path-without-list");
+    textRow("columns of a list", "$parts.Columns", "warning unknown-path");
+    operandRow("columns of a list as a number", "size", "$parts.columns", "warning unknown-path");
+    const QByteArray columns = R"({"type": "editors.operands", "text": "$a.Columns"})";
+    row("columns of rows in a list", R"("a": {"type": "list", "value": [["x"], "y"]})", columns,
+        {});
+    row("columns of a list that begins with no row", R"("a": {"type": "list",
+        "value": ["x", ["y"]]})",
+        columns, {"steps[0].text: warning unknown-path"});
+    row("columns of a list from outside", R"("a": {"type": "list", "value": []})", columns, {});
+    row("columns of a table from outside", R"("a": {"type": "table", "value": []})", columns, {});
+    row("columns of a table without a value", R"("a": {"type": "table"})", columns,
+        {"steps[0].text: warning reads-empty"});
+    row("columns of a list that is written", R"("a": {"type": "list", "value": ["x"]})",
+        R"({"type": "text.split", "sourceText": "x", "splitMode": "自定义字符", "separator": ";",
+            "resultVar": "a"}, )" +
+            columns,
+        {});
+    row("name with the columns in it", R"("parts.Columns": {"type": "int", "value": 1})",
+        R"({"type": "editors.operands", "text": "$parts.Columns"})",
+        {"steps[0].text: error dotted-name"});
     textRow("dot at the end", "$line.", "warning empty-path");
     textRow("dot at the end of nothing", "$lien.", undeclared);
     textRow("dots alone", "$..", undeclared);
@@ -230,6 +250,9 @@ void TaskCheckTest::types_data()
         R"({"type": "text.append", "sourceText": "1", "resultVar": "words"}, )" + step, {});
     row("text without a value", R"("words": {"type": "string"})", step,
         {"steps[0].size: warning reads-empty"});
+    row("text from outside", R"("words": {"type": "string", "value": ""})", step, {});
+    row("blanks instead of a number", R"("words": {"type": "string", "value": " "})", step,
+        {"steps[0].size: warning not-a-number"});
     row("list by its type", {}, R"({"type": "text.toNumber", "sourceText": "$parts",
         "resultVar": "ratio"})",
         {"steps[0].sourceText: " + finding});

@@ -8,7 +8,7 @@ enum class Mistake {
     UndeclaredVariable, ///< a name to read from that the task does not declare
     DottedName,         ///< "$a.b" where a variable is called "a.b"
     PathWithoutList,    ///< a member of something that is no list
-    UnknownPath,        ///< a member that lists do not have
+    UnknownPath,        ///< a member that lists, or this one, do not have
     EmptyPath,          ///< a reference that ends in "."
     ReferenceType,      ///< a reference to a variable of a type that is not asked for
     NotANumber,         ///< a numeric operand that is none

@@ -72,10 +72,15 @@ MaybeFinding pathWithoutList(const Setting &setting, const TaskFacts &facts)
                           .arg(quoted(QLatin1Char('$') + variable->name))});
 }
 
+bool asksForColumns(const OperandText &operand)
+{
+    return operand.path.compare(QLatin1String("Columns"), Qt::CaseInsensitive) == 0;
+}
+
 MaybeFinding unknownPath(const Setting &setting, const TaskFacts &facts)
 {
     const TaskVariable *const variable = brokenPath(setting, facts);
-    if (!variable || !holdsElements(variable->type))
+    if (!variable || !holdsElements(variable->type) || asksForColumns(setting.operand))
         return std::nullopt;
     const QString meant = nearName(setting.operand.path, listMembers()).name;
     const QString remedy =
@@ -87,6 +92,22 @@ MaybeFinding unknownPath(const Setting &setting, const TaskFacts &facts)
                      {QStringLiteral("a %1 has no member %2")
                           .arg(varTypeName(variable->type), quoted(setting.operand.path)),
                       nothingThere(setting), remedy});
+}
+
+/// Only a list of rows has columns. A warning, since another start value may be given from outside.
+MaybeFinding noColumns(const Setting &setting, const TaskFacts &facts)
+{
+    const TaskVariable *const variable = brokenPath(setting, facts);
+    if (!variable || !holdsElements(variable->type) || !asksForColumns(setting.operand))
+        return std::nullopt;
+    const QString count = quoted(QStringLiteral("$%1.Count").arg(variable->name));
+    return findingAt(setting, Mistake::UnknownPath, Severity::Warning,
+                     {QStringLiteral("%1 has no columns: its first element is no row")
+                          .arg(quoted(variable->name)),
+                      nothingThere(setting),
+                      QStringLiteral("write %1 for how many elements it has, or start with a list "
+                                     "of rows")
+                          .arg(count)});
 }
 
 MaybeFinding emptyPath(const Setting &setting, const TaskFacts &facts)
@@ -109,5 +130,5 @@ MaybeFinding emptyPath(const Setting &setting, const TaskFacts &facts)
 
 QList<SettingRule> referenceRules()
 {
-    return {undeclaredVariable, dottedName, pathWithoutList, unknownPath, emptyPath};
+    return {undeclaredVariable, dottedName, pathWithoutList, unknownPath, noColumns, emptyPath};
 }

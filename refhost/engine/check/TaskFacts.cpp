@@ -5,6 +5,8 @@
 
 #include "Operation.h"
 
+#include <QVariantList>
+
 #include <algorithm>
 
 namespace {
@@ -45,6 +47,14 @@ private:
     const OperationCatalog &m_catalog;
     QHash<QString, QList<PropertySchema>> m_read;
 };
+
+/// Whether a text or a list has nothing in it; of a number and a truth value nobody can tell.
+bool isBlank(const TaskVariable &variable)
+{
+    if (holdsElements(variable.type))
+        return variable.value.toList().isEmpty();
+    return variable.type == VarType::String && variable.value.toString().isEmpty();
+}
 
 } // namespace
 
@@ -105,6 +115,12 @@ const TaskVariable *TaskFacts::variable(const QString &name) const
     return place == m_places.end() ? nullptr : &m_variables.at(*place);
 }
 
+QVariant TaskFacts::knownValue(const TaskVariable &variable) const
+{
+    const bool isKnown = variable.value.isValid() && writers(variable.name).isEmpty();
+    return isKnown && !isBlank(variable) ? variable.value : QVariant();
+}
+
 VarType TaskFacts::typeBehind(const OperandText &operand) const
 {
     const TaskVariable *const declared = variable(operand.name);
@@ -114,6 +130,12 @@ VarType TaskFacts::typeBehind(const OperandText &operand) const
     if (member.isEmpty() || (member == QLatin1String("items") && holdsElements(declared->type)))
         return declared->type;
     const bool counts = member == QLatin1String("count") || member == QLatin1String("rows") ||
-                        member == QLatin1String("columns");
+                        (member == QLatin1String("columns") && mayHaveColumns(*declared));
     return counts && holdsElements(declared->type) ? VarType::Int : VarType::None;
+}
+
+bool TaskFacts::mayHaveColumns(const TaskVariable &variable) const
+{
+    const QVariantList rows = knownValue(variable).toList();
+    return rows.isEmpty() || rows.first().userType() == QMetaType::QVariantList;
 }

@@ -52,7 +52,13 @@ public:
     /// The variable called `name`, null when it is not declared.
     const TaskVariable *variable(const QString &name) const;
 
-    /// The type of what a reference finds; none when it finds nothing for sure.
+    /// The value that the variable is known to have throughout: the one it starts with, when no
+    /// step writes it. Invalid when that is not known. A text or list without anything in it waits
+    /// for its value from outside, so it is not known either.
+    QVariant knownValue(const TaskVariable &variable) const;
+
+    /// The type of what a reference finds; none when it finds nothing, which is certain as far as
+    /// the value of the variable is.
     VarType typeBehind(const OperandText &operand) const;
 
     /// The settings that read a variable, hidden ones too, in the order of the steps.
@@ -66,6 +72,7 @@ private:
 
     void readSteps(const Task &task, const OperationCatalog &catalog);
     void noteUse(const Setting &setting);
+    bool mayHaveColumns(const TaskVariable &variable) const;
 
     QVector<QVector<Setting>> m_steps;
     QList<TaskVariable> m_variables;

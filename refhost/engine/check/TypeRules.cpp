@@ -72,12 +72,12 @@ MaybeFinding textThatIsNoNumber(const Setting &setting, const TaskFacts &facts)
         facts.typeBehind(setting.operand) != VarType::String)
         return std::nullopt;
     const TaskVariable &variable = *facts.variable(setting.operand.name);
-    const bool known = variable.value.isValid() && facts.writers(variable.name).isEmpty();
-    if (!known || numberInValue(variable.value))
+    const QVariant value = facts.knownValue(variable);
+    if (!value.isValid() || numberInValue(value))
         return std::nullopt;
     return findingAt(setting, Mistake::NotANumber, Severity::Warning,
                      {QStringLiteral("%1 is %2, which is no number")
-                          .arg(quoted(setting.text()), quoted(variable.value.toString())),
+                          .arg(quoted(setting.text()), quoted(value.toString())),
                       nothingThere(setting),
                       QStringLiteral("give %1 a number to start with").arg(quoted(variable.name))});
 }
