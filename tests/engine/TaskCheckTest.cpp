@@ -297,6 +297,25 @@ void TaskCheckTest::literals_data()
     textRow("true line feed", R"(a\nb\t\"c\")", "");
     textRow("file name", R"(C:\\temp\\new.txt)", "");
     textRow("file name of a server", R"(\\\\server\\new)", "");
+    textRow("file name of two parts", R"(data\\new.txt)", "");
+    textRow("file name of three parts", R"(data\\new\\table.txt)", "");
+    textRow("Chinese file name", R"(数据\\new\\报表.xlsx)", "");
+    textRow("file name from the top", R"(\\new\\table.csv)", "");
+    textRow("folders", R"(data\\new\\old)", "");
+    textRow("folders with a backslash behind", R"(data\\new\\)", "");
+    textRow("file in this folder", R"(.\\table)", "");
+    textRow("file in the folder above", R"(..\\new)", "");
+    textRow("file in a variable folder", R"(%TEMP%\\new)", "");
+    textRow("file name that goes on with a code point", R"(data\\u4e2d.txt)", "");
+    textRow("file name with doubled backslashes", R"(data\\\\new\\\\table.txt)", escape);
+    textRow("words in columns", R"(name\\tage\\tcity)", escape);
+    textRow("words in lines", R"(hello\\nworld)", escape);
+    textRow("line feed behind a file name", R"(table.txt\\n)", escape);
+    textRow("line feed behind folders", R"(data\\old\\n)", escape);
+    textRow("line feed behind a sentence", R"(See data.\\nBye)", escape);
+    textRow("line feed behind a dot", R"(.\\n)", escape);
+    textRow("numbers in lines", R"(total=1\\nrest=2.5)", escape);
+    textRow("file name in a sentence", R"(请看：\\nnew.txt)", escape);
     textRow("in a name", R"($a\\nb)", "error undeclared-variable");
 
     const QString inner = "note dollar-in-text";

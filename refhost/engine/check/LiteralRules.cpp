@@ -64,10 +64,23 @@ MaybeFinding numberAsText(const Setting &setting, const TaskFacts &facts)
 }
 
 /// Whether the text is a file name in which backslashes are at home.
-bool isWindowsPath(const QString &text)
+///
+/// With the name of a drive or a server in front it is. Otherwise it has to be words of at least
+/// two characters with single backslashes before them, so not "a\nb" or "end.\n", and something has
+/// to speak for a file: ".\" or "%TEMP%\" in front, a suffix at the end, or a backslash that begins
+/// no escape, as in "new\old" or at the end. "name\tage\tcity" has nothing of that and is a line
+/// with tabulators typed into it; a folder "data\new" alone is taken for the same.
+bool isPath(const QString &text)
 {
-    static const QRegularExpression path(QStringLiteral(R"(^([A-Za-z]:\\|\\\\[^\\]+\\))"));
-    return path.match(text).hasMatch();
+    static const QRegularExpression rooted(QStringLiteral(R"(^([A-Za-z]:\\|\\\\[^\\]+\\))"));
+    static const QRegularExpression words(
+        QStringLiteral(R"(^[\w.~%$()-]*(\\[\w.~%$()-]{2,})+\\?$)"),
+        QRegularExpression::UseUnicodePropertiesOption);
+    static const QRegularExpression sign(
+        QStringLiteral(R"(^\.{1,2}\\|^%\w+%\\|\.[A-Za-z]\w{0,4}$|\\(?![ntr\\"]|u[0-9A-Fa-f]{4}))"));
+    if (rooted.match(text).hasMatch())
+        return true;
+    return words.match(text).hasMatch() && sign.match(text).hasMatch();
 }
 
 MaybeFinding typedEscape(const Setting &setting, const TaskFacts &facts)
@@ -75,7 +88,7 @@ MaybeFinding typedEscape(const Setting &setting, const TaskFacts &facts)
     Q_UNUSED(facts)
     static const QRegularExpression escape(QStringLiteral(R"(\\([ntr\\"]|u[0-9A-Fa-f]{4}))"));
     const QString text = setting.text();
-    if (!isLiteral(setting, PropertyRole::Text) || isWindowsPath(text))
+    if (!isLiteral(setting, PropertyRole::Text) || isPath(text))
         return std::nullopt;
     const QRegularExpressionMatch match = escape.match(text);
     if (!match.hasMatch())
@@ -85,7 +98,9 @@ MaybeFinding typedEscape(const Setting &setting, const TaskFacts &facts)
         setting, Mistake::TypedEscape, Severity::Warning,
         {typed + QStringLiteral(" is typed into the text"),
          QStringLiteral("the backslash stays in it: operands have no escape sequences"),
-         QStringLiteral("type the character itself; in a task file it is \"%1\"").arg(typed)});
+         QStringLiteral("type the character itself, in a task file \"%1\"; if the backslash is "
+                        "meant, leave it")
+             .arg(typed)});
 }
 
 MaybeFinding loneDollar(const Setting &setting, const TaskFacts &facts)
