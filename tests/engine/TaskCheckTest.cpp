@@ -33,6 +33,8 @@ private Q_SLOTS:
     void choices() { compare(); }
     void flow_data();
     void flow() { compare(); }
+    void emptyValues_data();
+    void emptyValues();
     void remedies_data();
     void remedies();
     void everyMistakeHasRows();
@@ -484,6 +486,24 @@ void TaskCheckTest::flow_data()
     QTest::newRow("no steps") << QByteArray(R"({"variables": {"a": {"type": "int"}}, "steps": []})")
                               << QStringList{"task.a: note unused-variable"};
     QTest::newRow("nothing") << QByteArray(R"({"steps": []})") << QStringList();
+    // A name near to it tells nothing about the variable but that it was not forgotten.
+    row("read only, and meant elsewhere", R"("price": {"type": "string"})",
+        R"({"type": "editors.operands", "text": "$prise"},
+           {"type": "editors.operands", "text": "$price"})",
+        {"steps[0].text: error undeclared-variable", "steps[1].text: warning reads-empty"});
+    row("read too early, and meant elsewhere", R"("price": {"type": "string"})",
+        R"({"type": "editors.operands", "text": "$price"},
+           {"type": "editors.operands", "text": "price!", "free": "$prise"},
+           {"type": "text.reverse", "sourceText": "x", "resultVar": "price"})",
+        {"steps[0].text: warning read-before-write", "steps[1].free: error undeclared-variable"});
+    row("overwritten, and meant elsewhere", R"("price": {"type": "string"})",
+        R"({"type": "text.reverse", "sourceText": "x", "resultVar": "price"},
+           {"type": "text.reverse", "sourceText": "$Price", "resultVar": "price"})",
+        {"steps[0].resultVar: note overwritten-unread",
+         "steps[1].sourceText: error undeclared-variable"});
+    row("member that is not there read only", R"("a": {"type": "list"})",
+        R"({"type": "editors.operands", "text": "$a.length"})",
+        {"steps[0].text: error unknown-path"});
     // A variable that was meant elsewhere is not unused as well.
     QTest::newRow("meant elsewhere")
         << QByteArray(R"({"variables": {"name": {"type": "string"}, "list": {"type": "list"},
@@ -495,6 +515,51 @@ void TaskCheckTest::flow_data()
                "steps[0].text: error undeclared-variable",   "steps[0].exact: error dotted-name",
                "steps[0].free: note dollar-in-text",         "steps[0].size: error not-a-number",
                "steps[1].resultVar: error name-with-dollar", "task.used: note unused-variable"};
+}
+
+void TaskCheckTest::emptyValues_data()
+{
+    QTest::addColumn<QByteArray>("type");
+    QTest::addColumn<QByteArray>("step");
+    QTest::addColumn<QString>("consequence");
+    const auto row = [](const char *type, const char *property, const char *text,
+                        const char *found) {
+        const QByteArray id =
+            QByteArray(property) == "source" ? "editors.names" : "editors.operands";
+        const QByteArray result = id == "editors.names" ? R"(, "resultVar": "part")" : "";
+        QTest::addRow("%s, %s %s", type, property, text)
+            << QByteArray(type)
+            << QByteArray(R"({"type": ")" + id + R"(", ")" + property + R"(": ")" + text + '"' +
+                          result + '}')
+            << QString("the step reads ") + found;
+    };
+    row("string", "text", "$a", "an empty text");
+    row("string", "text", "$a.", "an empty text");
+    row("string", "size", "$a", "an empty text, which is no number");
+    row("int", "text", "$a", "0");
+    row("int", "source", "a", "0");
+    row("double", "size", "$a", "0");
+    row("bool", "text", "$a", "false");
+    row("list", "list", "$a", "an empty list");
+    row("list", "list", "$a.Items", "an empty list");
+    row("table", "free", "$a", "an empty table");
+    row("list", "text", "$a.Count", "0");
+    row("table", "size", "$a.Rows", "0");
+    row("table", "text", "$a.Columns", "nothing");
+}
+
+void TaskCheckTest::emptyValues()
+{
+    QFETCH(QByteArray, type);
+    QFETCH(QByteArray, step);
+    const QList<Finding> findings =
+        check(R"({"variables": {"part": {"type": "string"}, "a": {"type": ")" + type +
+              R"("}}, "steps": [)" + step + "]}");
+    const auto found = std::find_if(findings.begin(), findings.end(), [](const Finding &finding) {
+        return finding.mistake == Mistake::ReadsEmpty;
+    });
+    QVERIFY(found != findings.end());
+    QTEST(found->consequence, "consequence");
 }
 
 void TaskCheckTest::remedies_data()

@@ -25,9 +25,9 @@ enum class Mistake {
     EmptyInput,
     InputType,
     UnknownMode,
-    HiddenSetting, ///< a setting that the editor does not show
-    ReadsEmpty,    ///< a variable that is read and has no value ever
-    ReadBeforeWrite,
+    HiddenSetting,   ///< a setting that the editor does not show
+    ReadsEmpty,      ///< a variable that is read and has no value ever
+    ReadBeforeWrite, ///< by a step before the one that writes it, not by that one
     OverwrittenUnread,
     UnusedVariable
 };

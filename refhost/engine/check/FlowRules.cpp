@@ -1,6 +1,10 @@
 #include "refhost/engine/check/FlowRules.h"
 
+#include "refhost/engine/OperandText.h"
+#include "refhost/engine/VarTypeName.h"
 #include "refhost/engine/check/TaskFacts.h"
+
+#include "VariableScope.h"
 
 #include <algorithm>
 
@@ -8,30 +12,34 @@ namespace {
 
 using Uses = QVector<const Setting *>;
 
-QString emptyValueName(VarType type)
+/// What a step finds that reads a variable before it has a value.
+QString foundWithoutValue(const Setting &reader, const TaskVariable &variable)
 {
-    switch (type) {
-    case VarType::Int:
-    case VarType::Double:
-        return QStringLiteral("0");
-    case VarType::Bool:
-        return QStringLiteral("false");
-    case VarType::List:
-    case VarType::Table:
-        return QStringLiteral("an empty ") +
-               (type == VarType::List ? QStringLiteral("list") : QStringLiteral("table"));
-    case VarType::String:
-    case VarType::None:
-        break;
-    }
-    return QStringLiteral("an empty text");
+    VariableScope scope;
+    scope.declare(variable.name, variable.type);
+    const QVariant value = reader.role == PropertyRole::Input ? scope.get(variable.name)
+                                                              : operandValue(reader.operand, scope);
+    if (!value.isValid())
+        return QStringLiteral("nothing");
+    if (value.userType() == QMetaType::QVariantList)
+        return QStringLiteral("an empty ") + varTypeName(variable.type);
+    const QString text = textOfValue(value);
+    if (!text.isEmpty())
+        return text;
+    const bool isNumber = reader.role == PropertyRole::Number;
+    return QStringLiteral("an empty text") +
+           (isNumber ? QStringLiteral(", which is no number") : QString());
 }
 
-/// The first use that the editor shows, null when there is none.
-const Setting *firstShown(const Uses &uses)
+/// The first use that the editor shows and that asks for something the variable can have; null when
+/// there is none.
+const Setting *firstReader(const TaskVariable &variable, const TaskFacts &facts)
 {
-    const auto found =
-        std::find_if(uses.begin(), uses.end(), [](const Setting *use) { return use->isShown; });
+    const Uses uses = facts.readers(variable.name);
+    const auto found = std::find_if(uses.begin(), uses.end(), [&](const Setting *use) {
+        const bool isName = use->role == PropertyRole::Input;
+        return use->isShown && (isName || facts.typeBehind(use->operand) != VarType::None);
+    });
     return found == uses.end() ? nullptr : *found;
 }
 
@@ -54,12 +62,12 @@ void checkUse(const TaskVariable &variable, const TaskFacts &facts, QList<Findin
 
 void checkFirstRead(const TaskVariable &variable, const TaskFacts &facts, QList<Finding> &findings)
 {
-    const Setting *const reader = firstShown(facts.readers(variable.name));
+    const Setting *const reader = firstReader(variable, facts);
     if (!reader || variable.value.isValid())
         return;
     const Uses writers = facts.writers(variable.name);
-    const QString empty = emptyValueName(variable.type);
-    const QString consequence = QStringLiteral("the step reads ") + empty;
+    const QString consequence =
+        QStringLiteral("the step reads ") + foundWithoutValue(*reader, variable);
     if (writers.isEmpty()) {
         findings.append(findingAt(
             *reader, Mistake::ReadsEmpty, Severity::Warning,
@@ -68,6 +76,7 @@ void checkFirstRead(const TaskVariable &variable, const TaskFacts &facts, QList<
              consequence,
              QStringLiteral(
                  "declare it with a \"value\", if only an empty one, or write it in a step")}));
+        // A step may read the variable it writes: one that grows a text begins with an empty one.
     } else if (writers.first()->step > reader->step) {
         findings.append(findingAt(
             *reader, Mistake::ReadBeforeWrite, Severity::Warning,
@@ -112,9 +121,10 @@ QList<Finding> flowFindings(const TaskFacts &facts, const QSet<QString> &meant)
 {
     QList<Finding> findings;
     for (const TaskVariable &variable : facts.variables()) {
-        if (meant.contains(variable.name))
-            continue;
-        checkUse(variable, facts, findings);
+        // Where a name was probably mistyped the variable is not forgotten; what other steps find
+        // in it is no better for that.
+        if (!meant.contains(variable.name))
+            checkUse(variable, facts, findings);
         checkFirstRead(variable, facts, findings);
         checkOverwriting(variable, facts, findings);
     }
