@@ -385,7 +385,7 @@ void TaskCheckTest::names_data()
     resultRow("scalar, double", "text.toNumber", "ratio", "");
     resultRow("scalar, string", "text.toNumber", "part", "warning result-type");
     resultRow("scalar, bool", "text.toNumber", "done", "warning result-type");
-    resultRow("scalar, table", "text.toNumber", "rows", "warning result-type");
+    resultRow("scalar, table", "text.toNumber", "rows", "error result-type");
     resultRow("scalar, list", "text.toNumber", "parts", "error result-type");
     const auto findRow = [](const char *name, const char *variable, const QString &finding) {
         const QByteArray step = QByteArray(R"({"type": "text.find", "sourceText": "$line",
@@ -421,9 +421,9 @@ void TaskCheckTest::choices_data()
     columns();
     stepRow("mode", R"({"type": "editors.operands", "mode": 2})", "");
     stepRow("mode beyond", R"({"type": "editors.operands", "mode": 3})",
-            "mode: error unknown-mode");
+            "mode: warning unknown-mode");
     stepRow("negative mode", R"({"type": "editors.operands", "mode": -1})",
-            "mode: error unknown-mode");
+            "mode: warning unknown-mode");
     const QString hidden = "warning hidden-setting";
     stepRow("shown", R"({"type": "editors.operands", "mode": 1, "extra": "x"})", "");
     stepRow("also shown", R"({"type": "editors.operands", "mode": "three", "extra": "x"})", "");
@@ -435,7 +435,7 @@ void TaskCheckTest::choices_data()
             "flag: " + hidden);
     stepRow("hidden flag, unset", R"({"type": "editors.operands", "mode": 1, "flag": false})", "");
     stepRow("hidden by an unknown mode", R"({"type": "editors.operands", "mode": 7, "extra": "x"})",
-            "mode: error unknown-mode");
+            "mode: warning unknown-mode");
     stepRow("hidden by nothing there", R"({"type": "editors.operands", "lost": "x"})", "");
     stepRow("never hidden", R"({"type": "editors.operands", "ratio": 2.5})", "");
 }
@@ -486,6 +486,19 @@ void TaskCheckTest::flow_data()
     QTest::newRow("no steps") << QByteArray(R"({"variables": {"a": {"type": "int"}}, "steps": []})")
                               << QStringList{"task.a: note unused-variable"};
     QTest::newRow("nothing") << QByteArray(R"({"steps": []})") << QStringList();
+    // A step that cannot write the variable neither gives it a value nor takes one away.
+    const QByteArray find = R"({"type": "text.find", "sourceText": "x", "searchText": "x",
+                                "resultVar": "n"})";
+    const QByteArray reverse = R"({"type": "text.reverse", "sourceText": "x", "resultVar": "n"})";
+    row("not overwritten by another type", R"("n": {"type": "int"})", find + ',' + reverse,
+        {"steps[1].resultVar: error result-type"});
+    row("overwritten in another form", R"("n": {"type": "double"})", find + ',' + find,
+        {"steps[0].resultVar: warning result-type", "steps[0].resultVar: note overwritten-unread",
+         "steps[1].resultVar: warning result-type"});
+    row("not written by another type, then read", R"("n": {"type": "int"})",
+        reverse + R"(, {"type": "editors.operands", "text": "$n"})",
+        {"steps[0].resultVar: error result-type", "steps[1].text: warning reads-empty"});
+
     // A name near to it tells nothing about the variable but that it was not forgotten.
     row("read only, and meant elsewhere", R"("price": {"type": "string"})",
         R"({"type": "editors.operands", "text": "$prise"},

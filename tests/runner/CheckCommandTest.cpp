@@ -225,7 +225,7 @@ void CheckCommandTest::otherPlugins()
 
     const OprunFolder::Outcome edited = check(
         R"({"steps": [{"type": "editors.operands", "mode": 9}]})", {"--plugin", EDITORS_PLUGIN});
-    QVERIFY2(edited.out.startsWith("steps[0] editors.operands mode: error: 9 is none of the "
+    QVERIFY2(edited.out.startsWith("steps[0] editors.operands mode: warning: 9 is none of the "
                                    "choices, which are 0 to 2 [unknown-mode]\n"),
              qPrintable(edited.out));
 }

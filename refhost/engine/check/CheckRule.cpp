@@ -1,7 +1,6 @@
 #include "refhost/engine/check/CheckRule.h"
 
 #include "refhost/engine/JsonValue.h"
-#include "refhost/engine/VarTypeName.h"
 #include "refhost/engine/check/NearName.h"
 #include "refhost/engine/check/TaskFacts.h"
 
@@ -47,20 +46,6 @@ QString anyOf(const QStringList &texts)
     if (words.isEmpty())
         return last;
     return QStringLiteral("%1 or %2").arg(words.join(QLatin1String(", ")), last);
-}
-
-bool namesType(const QString &words, VarType type)
-{
-    const QStringList list = words.split(QLatin1Char(','));
-    for (const QString &word : list) {
-        const VarType named = varTypeFromName(word);
-        const bool isScalar = word == QLatin1String("scalar");
-        if (isScalar && (type == VarType::Int || type == VarType::Double))
-            return true;
-        if (!isScalar && (named == VarType::None || named == type))
-            return true;
-    }
-    return false;
 }
 
 QString remedyForName(const QString &name, const QString &sign, const NearName &near)

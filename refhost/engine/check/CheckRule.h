@@ -2,8 +2,6 @@
 
 #include "refhost/engine/check/Finding.h"
 
-#include "VarType.h"
-
 #include <QList>
 
 #include <optional>
@@ -35,10 +33,6 @@ QString quoted(const QString &text);
 
 /// The texts in quotes, with commas and, before the last, "or".
 QString anyOf(const QStringList &texts);
-
-/// Whether a list of type words, such as "int,double", names `type`. The word "scalar" stands for
-/// the numbers; of a word that is not known nothing can be said, so it names every type.
-bool namesType(const QString &words, VarType type);
 
 /// What to do about a name that is not declared, when `near` may have been meant. `sign` is what
 /// stands before a name at this place: "$" or nothing.

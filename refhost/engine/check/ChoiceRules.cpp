@@ -24,11 +24,10 @@ MaybeFinding unknownMode(const Setting &setting, const TaskFacts &facts)
     const QStringList &choices = setting.schema.choices;
     if (choices.isEmpty() || isChoice(setting))
         return std::nullopt;
-    return findingAt(setting, Mistake::UnknownMode, Severity::Error,
+    return findingAt(setting, Mistake::UnknownMode, Severity::Warning,
                      {QStringLiteral("%1 is none of the choices, which are 0 to %2")
                           .arg(setting.text(), QString::number(choices.size() - 1)),
-                      QStringLiteral("the step does nothing, as a rule with a warning, or what it "
-                                     "does for another choice"),
+                      QStringLiteral("the step does what it does for another choice, or nothing"),
                       QStringLiteral("choose ") + anyOf(choices)});
 }
 

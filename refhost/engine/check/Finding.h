@@ -32,10 +32,10 @@ enum class Mistake {
     UnusedVariable
 };
 
-/// How bad it is.
+/// How sure it is that something is wrong. What a step makes of it is known to the step alone.
 enum class Severity {
-    Error,   ///< an operand stands for nothing, or the step does nothing or logs a warning
-    Warning, ///< the task runs, but probably not as it was meant
+    Error,   ///< what stands there is of no use: nothing can be found, read or written by it
+    Warning, ///< it is of use, or left out, but probably not as it was meant
     Note     ///< worth a look
 };
 

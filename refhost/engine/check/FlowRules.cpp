@@ -45,9 +45,7 @@ const Setting *firstReader(const TaskVariable &variable, const TaskFacts &facts)
 
 void checkUse(const TaskVariable &variable, const TaskFacts &facts, QList<Finding> &findings)
 {
-    const bool isUsed =
-        !facts.readers(variable.name).isEmpty() || !facts.writers(variable.name).isEmpty();
-    if (isUsed)
+    if (facts.isUsed(variable.name))
         return;
     Finding finding;
     finding.mistake = Mistake::UnusedVariable;

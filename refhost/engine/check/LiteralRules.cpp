@@ -40,16 +40,10 @@ MaybeFinding notANumber(const Setting &setting, const TaskFacts &facts)
                       facts.variable(text) ? text : QString()});
 }
 
-/// Where a number is welcome the way it is written does not matter.
-bool asksForNumbers(const PropertySchema &schema)
-{
-    return !schema.restriction.isEmpty() && (namesType(schema.restriction, VarType::Int) ||
-                                             namesType(schema.restriction, VarType::Double));
-}
-
 MaybeFinding numberAsText(const Setting &setting, const TaskFacts &facts)
 {
     Q_UNUSED(facts)
+    // Where a number is welcome the way it is written does not matter.
     if (!isLiteral(setting, PropertyRole::Text) || asksForNumbers(setting.schema))
         return std::nullopt;
     const auto number = literalNumber(setting.text());

@@ -112,7 +112,7 @@ MaybeFinding inputType(const Setting &setting, const TaskFacts &facts)
                                                "warning")));
 }
 
-/// A number can be written in several forms; empty where it cannot be written at all.
+/// What becomes of a number in a variable of another type.
 QString formOfNumber(VarType type)
 {
     switch (type) {
@@ -130,7 +130,7 @@ QString formOfNumber(VarType type)
     case VarType::None:
         break;
     }
-    return {};
+    return nothingWritten();
 }
 
 MaybeFinding resultType(const Setting &setting, const TaskFacts &facts)
@@ -138,12 +138,12 @@ MaybeFinding resultType(const Setting &setting, const TaskFacts &facts)
     const TaskVariable *const variable = unfitVariable(setting, facts);
     if (setting.role != PropertyRole::Result || !variable)
         return std::nullopt;
-    const bool isNumber = namesType(setting.schema.restriction, VarType::Int) ||
-                          namesType(setting.schema.restriction, VarType::Double);
-    const QString form = isNumber ? formOfNumber(variable->type) : QString();
+    const QString consequence =
+        asksForNumbers(setting.schema) ? formOfNumber(variable->type) : nothingWritten();
     return findingAt(setting, Mistake::ResultType,
-                     form.isEmpty() ? Severity::Error : Severity::Warning,
-                     typeAdvice(setting, *variable, form.isEmpty() ? nothingWritten() : form));
+                     takesResult(setting.schema, variable->type) ? Severity::Warning
+                                                                 : Severity::Error,
+                     typeAdvice(setting, *variable, consequence));
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "refhost/engine/OperationCatalog.h"
 #include "refhost/engine/OperationSchema.h"
+#include "refhost/engine/VarTypeName.h"
 
 #include "Operation.h"
 
@@ -63,6 +64,33 @@ bool holdsElements(VarType type)
     return type == VarType::List || type == VarType::Table;
 }
 
+bool namesType(const QString &words, VarType type)
+{
+    const QStringList list = words.split(QLatin1Char(','));
+    for (const QString &word : list) {
+        const VarType named = varTypeFromName(word);
+        const bool isScalar = word == QLatin1String("scalar");
+        if (isScalar && (type == VarType::Int || type == VarType::Double))
+            return true;
+        if (!isScalar && (named == VarType::None || named == type))
+            return true;
+    }
+    return false;
+}
+
+bool asksForNumbers(const PropertySchema &schema)
+{
+    return !schema.restriction.isEmpty() && (namesType(schema.restriction, VarType::Int) ||
+                                             namesType(schema.restriction, VarType::Double));
+}
+
+bool takesResult(const PropertySchema &schema, VarType type)
+{
+    if (schema.restriction.isEmpty() || namesType(schema.restriction, type))
+        return true;
+    return asksForNumbers(schema) && !holdsElements(type);
+}
+
 TaskFacts::TaskFacts(const Task &task, const OperationCatalog &catalog)
     : m_variables(task.variables)
 {
@@ -93,12 +121,16 @@ void TaskFacts::readSteps(const Task &task, const OperationCatalog &catalog)
 
 void TaskFacts::noteUse(const Setting &setting)
 {
-    if (setting.operand.isReference)
-        m_readers[setting.operand.name].append(&setting);
-    else if (setting.role == PropertyRole::Input)
-        m_readers[setting.text()].append(&setting);
-    else if (setting.role == PropertyRole::Result)
-        m_writers[setting.text()].append(&setting);
+    const bool isName = setting.role == PropertyRole::Input || setting.role == PropertyRole::Result;
+    if (!isName && !setting.operand.isReference)
+        return;
+    const QString name = isName ? setting.text() : setting.operand.name;
+    m_used.insert(name);
+    const TaskVariable *const declared = variable(name);
+    if (setting.role != PropertyRole::Result)
+        m_readers[name].append(&setting);
+    else if (declared && takesResult(setting.schema, declared->type))
+        m_writers[name].append(&setting);
 }
 
 const Setting *TaskFacts::sibling(const Setting &setting, const QString &name) const

@@ -7,6 +7,7 @@
 
 #include <QHash>
 #include <QList>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
@@ -16,6 +17,17 @@ class OperationCatalog;
 
 /// Whether values of this type have elements, and so members such as "Count".
 bool holdsElements(VarType type);
+
+/// Whether a list of type words, such as "int,double", names `type`. The word "scalar" stands for
+/// the numbers; of a word that is not known nothing can be said, so it names every type.
+bool namesType(const QString &words, VarType type);
+
+/// Whether the property asks for a number, though maybe not for a number alone.
+bool asksForNumbers(const PropertySchema &schema);
+
+/// Whether a variable of this type can take what the property says is the result: one that the
+/// editor offers, and for a number any other single value.
+bool takesResult(const PropertySchema &schema, VarType type);
 
 /// One property of one step, as the rules of a check look at it.
 struct Setting
@@ -64,7 +76,11 @@ public:
     /// The settings that read a variable, hidden ones too, in the order of the steps.
     QVector<const Setting *> readers(const QString &name) const { return m_readers.value(name); }
 
-    /// The settings that name a variable as their result, in the order of the steps.
+    /// Whether any setting names the variable, be it to no avail.
+    bool isUsed(const QString &name) const { return m_used.contains(name); }
+
+    /// The settings that write their result into a variable, which so has to be able to take it, in
+    /// the order of the steps.
     QVector<const Setting *> writers(const QString &name) const { return m_writers.value(name); }
 
 private:
@@ -80,4 +96,5 @@ private:
     QHash<QString, int> m_places; ///< of the variables in their list
     QHash<QString, QVector<const Setting *>> m_readers;
     QHash<QString, QVector<const Setting *>> m_writers;
+    QSet<QString> m_used;
 };
