@@ -1,6 +1,6 @@
 #include "refhost/engine/check/LiteralRules.h"
 
-#include "refhost/engine/check/NearName.h"
+#include "refhost/engine/check/NameIndex.h"
 #include "refhost/engine/check/TaskFacts.h"
 
 #include <QRegularExpression>
@@ -117,13 +117,13 @@ struct InnerReference
 };
 
 /// The first one in the text that has the name of a variable, empty without one.
-InnerReference referenceWithin(const QString &text, const QStringList &names)
+InnerReference referenceWithin(const QString &text, const NameIndex &names)
 {
     for (int dollar = text.indexOf(QLatin1Char('$')); dollar >= 0;
          dollar = text.indexOf(QLatin1Char('$'), dollar + 1)) {
         const bool braced = text.midRef(dollar + 1).startsWith(QLatin1Char('{'));
         const int start = dollar + (braced ? 2 : 1);
-        const int size = leadingNameSize(QStringView(text).mid(start), names);
+        const int size = names.leadingSize(QStringView(text).mid(start));
         const bool closed = !braced || text.midRef(start + size).startsWith(QLatin1Char('}'));
         const int end = start + size + (braced ? 1 : 0);
         if (size > 0 && closed)
@@ -136,7 +136,7 @@ MaybeFinding dollarInText(const Setting &setting, const TaskFacts &facts)
 {
     if (!isLiteral(setting, PropertyRole::Text))
         return std::nullopt;
-    const InnerReference inner = referenceWithin(setting.text(), facts.variableNames());
+    const InnerReference inner = referenceWithin(setting.text(), facts.names());
     if (inner.name.isEmpty())
         return std::nullopt;
     return findingAt(setting, Mistake::DollarInText, Severity::Note,

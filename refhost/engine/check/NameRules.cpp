@@ -1,7 +1,7 @@
 #include "refhost/engine/check/NameRules.h"
 
 #include "refhost/engine/VarTypeName.h"
-#include "refhost/engine/check/NearName.h"
+#include "refhost/engine/check/NameIndex.h"
 #include "refhost/engine/check/TaskFacts.h"
 
 namespace {
@@ -67,7 +67,7 @@ MaybeFinding undeclaredName(const Setting &setting, const TaskFacts &facts)
     if (!isName(setting) || name.isEmpty() || facts.variable(name) || isReference(setting, facts))
         return std::nullopt;
     const bool isResult = setting.role == PropertyRole::Result;
-    const NearName near = nearName(name, facts.variableNames());
+    const NearName near = facts.names().nearest(name);
     return findingAt(setting, isResult ? Mistake::UndeclaredResult : Mistake::UndeclaredVariable,
                      Severity::Error,
                      {quoted(name) + QStringLiteral(" is no variable"),

@@ -1,8 +1,6 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
-#include <QStringView>
 
 /// A declared name that somebody may have meant by another one, and how the two differ.
 struct NearName
@@ -19,11 +17,3 @@ struct NearName
     Difference difference = Difference::Far;
     QString name;
 };
-
-/// The one among `declared` that is nearest to `name`; the kinds of difference go before each other
-/// in their order. Short names have to agree more closely than long ones.
-NearName nearName(const QString &name, const QStringList &declared);
-
-/// The size of the longest of `declared` with which `text` begins as with a word of its own, so not
-/// "line" in "lines"; 0 when there is none.
-int leadingNameSize(QStringView text, const QStringList &declared);

@@ -1,7 +1,7 @@
 #include "refhost/engine/check/ReferenceRules.h"
 
 #include "refhost/engine/VarTypeName.h"
-#include "refhost/engine/check/NearName.h"
+#include "refhost/engine/check/NameIndex.h"
 #include "refhost/engine/check/TaskFacts.h"
 
 namespace {
@@ -27,7 +27,7 @@ MaybeFinding undeclaredVariable(const Setting &setting, const TaskFacts &facts)
     const OperandText &operand = setting.operand;
     if (!operand.isReference || facts.variable(operand.name) || meansDottedName(operand, facts))
         return std::nullopt;
-    const NearName near = nearName(operand.name, facts.variableNames());
+    const NearName near = facts.names().nearest(operand.name);
     return findingAt(setting, Mistake::UndeclaredVariable, Severity::Error,
                      {quoted(setting.text()) + QStringLiteral(" names no variable"),
                       nothingThere(setting), remedyForName(operand.name, QStringLiteral("$"), near),
@@ -82,7 +82,7 @@ MaybeFinding unknownPath(const Setting &setting, const TaskFacts &facts)
     const TaskVariable *const variable = brokenPath(setting, facts);
     if (!variable || !holdsElements(variable->type) || asksForColumns(setting.operand))
         return std::nullopt;
-    const QString meant = nearName(setting.operand.path, listMembers()).name;
+    const QString meant = NameIndex(listMembers()).nearest(setting.operand.path).name;
     const QString remedy =
         meant.isEmpty()
             ? QStringLiteral("write one of %1 behind the \".\"").arg(anyOf(listMembers()))

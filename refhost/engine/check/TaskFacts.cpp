@@ -6,6 +6,7 @@
 
 #include "Operation.h"
 
+#include <QStringList>
 #include <QVariantList>
 
 #include <algorithm>
@@ -48,6 +49,14 @@ private:
     const OperationCatalog &m_catalog;
     QHash<QString, QList<PropertySchema>> m_read;
 };
+
+QStringList namesOf(const QList<TaskVariable> &variables)
+{
+    QStringList names;
+    for (const TaskVariable &variable : variables)
+        names.append(variable.name);
+    return names;
+}
 
 /// Whether a text or a list has nothing in it; of a number and a truth value nobody can tell.
 bool isBlank(const TaskVariable &variable)
@@ -93,11 +102,10 @@ bool takesResult(const PropertySchema &schema, VarType type)
 
 TaskFacts::TaskFacts(const Task &task, const OperationCatalog &catalog)
     : m_variables(task.variables)
+    , m_names(namesOf(task.variables))
 {
-    for (const TaskVariable &variable : m_variables) {
-        m_places.insert(variable.name, m_names.size());
-        m_names.append(variable.name);
-    }
+    for (int i = 0; i < m_variables.size(); ++i)
+        m_places.insert(m_variables.at(i).name, i);
     readSteps(task, catalog);
     for (const QVector<Setting> &step : qAsConst(m_steps)) {
         for (const Setting &setting : step)

@@ -4,12 +4,12 @@
 #include "refhost/engine/PropertyRole.h"
 #include "refhost/engine/PropertySchema.h"
 #include "refhost/engine/Task.h"
+#include "refhost/engine/check/NameIndex.h"
 
 #include <QHash>
 #include <QList>
 #include <QSet>
 #include <QString>
-#include <QStringList>
 #include <QVariant>
 #include <QVector>
 
@@ -59,7 +59,7 @@ public:
     const Setting *sibling(const Setting &setting, const QString &name) const;
 
     const QList<TaskVariable> &variables() const { return m_variables; }
-    const QStringList &variableNames() const { return m_names; }
+    const NameIndex &names() const { return m_names; }
 
     /// The variable called `name`, null when it is not declared.
     const TaskVariable *variable(const QString &name) const;
@@ -92,7 +92,7 @@ private:
 
     QVector<QVector<Setting>> m_steps;
     QList<TaskVariable> m_variables;
-    QStringList m_names;
+    NameIndex m_names;
     QHash<QString, int> m_places; ///< of the variables in their list
     QHash<QString, QVector<const Setting *>> m_readers;
     QHash<QString, QVector<const Setting *>> m_writers;
