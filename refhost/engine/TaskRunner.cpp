@@ -30,10 +30,13 @@ StepReport runStep(Operation &step, VariableScope &scope)
 } // namespace
 
 void runTask(const Task &task, VariableScope &scope,
-             const std::function<void(const StepReport &)> &report)
+             const std::function<void(const StepReport &)> &report,
+             const std::function<void(const Operation &)> &begin)
 {
     int index = 0;
     for (const auto &step : task.steps) {
+        if (begin)
+            begin(*step);
         StepReport stepReport = runStep(*step, scope);
         stepReport.index = index++;
         report(stepReport);

@@ -18,7 +18,9 @@ struct StepReport
     qint64 nanoseconds = 0;          ///< what its `doOperation` took
 };
 
-/// Runs the steps of `task` in order on `scope`, and calls `report` after each. The steps keep no
-/// pointer to the scope afterwards.
+/// Runs the steps of `task` in order on `scope`, and calls `report` after each, and `begin`, where
+/// there is one, before it, while the scope is as the step will find it. The steps keep no pointer
+/// to the scope afterwards.
 void runTask(const Task &task, VariableScope &scope,
-             const std::function<void(const StepReport &)> &report);
+             const std::function<void(const StepReport &)> &report,
+             const std::function<void(const Operation &)> &begin = {});

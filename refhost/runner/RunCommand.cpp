@@ -50,14 +50,20 @@ int runOnce(const Task &task, const QCommandLineParser &options, const QString &
 {
     bool warned = false;
     VariableScope scope = task.startScope();
-    StepTrace trace(scope);
-    runTask(task, scope, [&](const StepReport &report) {
-        warned = warned || !report.warnings.isEmpty();
-        if (options.isSet(RunOptions::trace()))
-            trace.show(report, scope, console);
+    const bool isTraced = options.isSet(RunOptions::trace());
+    StepTrace trace;
+    const auto begin = [&](const Operation &step) {
+        if (isTraced)
+            trace.begin(step, scope);
+    };
+    const auto report = [&](const StepReport &done) {
+        warned = warned || !done.warnings.isEmpty();
+        if (isTraced)
+            trace.show(done, scope, console);
         else
-            complainOfStep(report, file, console);
-    });
+            complainOfStep(done, file, console);
+    };
+    runTask(task, scope, report, begin);
     printVariables(scope, options.values(RunOptions::print()), options.isSet(Options::json()),
                    console);
     return warned && options.isSet(RunOptions::strict()) ? Warned : Success;

@@ -9,6 +9,7 @@
 #include "refhost/runner/OneLine.h"
 
 #include "Operation.h"
+#include "VariableScope.h"
 
 namespace {
 
@@ -107,19 +108,19 @@ QStringList operandLines(const Operation &step, const VariableScope &scope)
 
 } // namespace
 
-StepTrace::StepTrace(const VariableScope &start)
-    : m_before(start)
+void StepTrace::begin(const Operation &step, const VariableScope &scope)
 {
+    m_operands = operandLines(step, scope);
 }
 
-void StepTrace::show(const StepReport &report, const VariableScope &scope, const Console &console)
+void StepTrace::show(const StepReport &report, const VariableScope &scope,
+                     const Console &console) const
 {
     const QString number = stepNumber(report.index);
     const QString indent(number.size(), QLatin1Char(' '));
     console.note(number + oneLine(report.step->toString()));
     console.note(indent + oneLine(report.step->description()));
-    const QStringList operands = operandLines(*report.step, m_before);
-    for (const QString &line : operands)
+    for (const QString &line : m_operands)
         console.note(indent + line);
     for (const QString &name : report.written)
         console.note(indent + oneLine(name) + QStringLiteral(" = ") + valueText(scope.get(name)));
@@ -127,5 +128,4 @@ void StepTrace::show(const StepReport &report, const VariableScope &scope, const
         console.note(indent + QStringLiteral("warning: ") + oneLine(line));
     const double microseconds = static_cast<double>(report.nanoseconds) / 1000;
     console.note(indent + QStringLiteral("took %1 µs").arg(microseconds, 0, 'f', 1));
-    m_before = scope;
 }

@@ -1,20 +1,22 @@
 #pragma once
 
-#include "VariableScope.h"
+#include <QStringList>
 
 class Console;
+class Operation;
+class VariableScope;
 struct StepReport;
 
 /// Shows on standard error what each step of a run found, did, wrote and complained of.
 class StepTrace
 {
 public:
-    /// `start` is the scope before the first step.
-    explicit StepTrace(const VariableScope &start);
+    /// Reads the operands of a step that is about to run on `scope`.
+    void begin(const Operation &step, const VariableScope &scope);
 
-    /// Shows one step; to be called after each, in order. `scope` is as the step left it.
-    void show(const StepReport &report, const VariableScope &scope, const Console &console);
+    /// Shows the step that was begun last. `scope` is as the step left it.
+    void show(const StepReport &report, const VariableScope &scope, const Console &console) const;
 
 private:
-    VariableScope m_before; ///< as the step to be shown next finds it
+    QStringList m_operands; ///< a line for each that the editor shows
 };

@@ -25,6 +25,7 @@ private Q_SLOTS:
     void refusesFiles_data();
     void refusesFiles();
     void runs();
+    void tellsBeforeAndAfter();
     void runsAgain();
     void writesWhatItReads();
     void writesForeignSteps();
@@ -201,6 +202,26 @@ void TaskTest::runs()
     // The steps are through with the scope.
     task.value().steps.front()->doOperation();
     QCOMPARE(takeWarnings(), QStringList());
+}
+
+void TaskTest::tellsBeforeAndAfter()
+{
+    const auto json = parseJsonObject(sampleTask, {});
+    const Result<Task> task = TaskReader(*m_catalog).read(json.value());
+    QVERIFY(task);
+    VariableScope scope = task.value().startScope();
+    QStringList log;
+    runTask(
+        task.value(), scope,
+        [&](const StepReport &report) {
+            log.append(QString("%1 after: %2").arg(report.index).arg(scope.get("part").toString()));
+        },
+        [&](const Operation &step) {
+            log.append(QString("%1 before: %2").arg(step.typeId(), scope.get("part").toString()));
+        });
+    QCOMPARE(log, QStringList({"text.append before: ", "0 after: key=value;!",
+                               "text.append before: key=value;!", "1 after: key=value;!",
+                               "text.append before: key=value;!", "2 after: key=value;!"}));
 }
 
 void TaskTest::runsAgain()
