@@ -553,6 +553,7 @@ void TaskCheckTest::emptyValues_data()
     row("int", "source", "a", "0");
     row("double", "size", "$a", "0");
     row("bool", "text", "$a", "false");
+    row("bool", "size", "$a", "0");
     row("list", "list", "$a", "an empty list");
     row("list", "list", "$a.Items", "an empty list");
     row("table", "free", "$a", "an empty table");

@@ -19,6 +19,9 @@ QString foundWithoutValue(const Setting &reader, const TaskVariable &variable)
     scope.declare(variable.name, variable.type);
     const QVariant value = reader.role == PropertyRole::Input ? scope.get(variable.name)
                                                               : operandValue(reader.operand, scope);
+    const auto number = numberInValue(value);
+    if (reader.role == PropertyRole::Number && number)
+        return textOfValue(*number);
     if (!value.isValid())
         return QStringLiteral("nothing");
     if (value.userType() == QMetaType::QVariantList)
