@@ -26,7 +26,7 @@ QString foundWithoutValue(const Setting &reader, const TaskVariable &variable)
         return QStringLiteral("nothing");
     if (value.userType() == QMetaType::QVariantList)
         return QStringLiteral("an empty ") + varTypeName(variable.type);
-    const QString text = textOfValue(value);
+    QString text = textOfValue(value);
     if (!text.isEmpty())
         return text;
     const bool isNumber = reader.role == PropertyRole::Number;
