@@ -18,11 +18,6 @@ Problem unreadable(const QFile &file)
 
 } // namespace
 
-Problem emptyFileName(Problem::Reason reason)
-{
-    return {reason, {}, {}, QStringLiteral("an empty file name; expected a file")};
-}
-
 Result<QByteArray> readFileBytes(const QString &path)
 {
     if (path.isEmpty())

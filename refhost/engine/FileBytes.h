@@ -7,9 +7,6 @@
 
 #include <optional>
 
-/// That the user gave no name of a file, where one is needed.
-Problem emptyFileName(Problem::Reason reason);
-
 /// The content of the file at `path`. A problem names the file and carries the system's reason.
 Result<QByteArray> readFileBytes(const QString &path);
 

@@ -1,7 +1,4 @@
 #include "refhost/engine/OutputFile.h"
-
-#include "refhost/engine/FileBytes.h"
-
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>

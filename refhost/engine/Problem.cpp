@@ -11,3 +11,8 @@ QString Problem::toString() const
     }
     return parts.join(QLatin1String(": "));
 }
+
+Problem emptyFileName(Problem::Reason reason)
+{
+    return {reason, {}, {}, QStringLiteral("an empty file name; expected a file")};
+}

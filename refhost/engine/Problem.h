@@ -34,3 +34,6 @@ struct Problem
     /// File, place and message in one line.
     QString toString() const;
 };
+
+/// That the user gave no name of a file, where one is needed.
+Problem emptyFileName(Problem::Reason reason);

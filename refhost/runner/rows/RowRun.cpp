@@ -1,6 +1,5 @@
 #include "refhost/runner/rows/RowRun.h"
 
-#include "refhost/engine/FileBytes.h"
 #include "refhost/engine/JsonValue.h"
 #include "refhost/engine/OutputFile.h"
 #include "refhost/engine/Task.h"

@@ -1,6 +1,5 @@
 #include "refhost/runner/rows/RowSource.h"
 
-#include "refhost/engine/FileBytes.h"
 #include "refhost/runner/rows/Interruption.h"
 
 #include <algorithm>
