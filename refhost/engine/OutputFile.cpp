@@ -1,4 +1,5 @@
 #include "refhost/engine/OutputFile.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
