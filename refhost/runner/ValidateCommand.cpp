@@ -103,7 +103,7 @@ QString ValidateCommand::summary() const
 
 QString ValidateCommand::example() const
 {
-    return QStringLiteral("oprun validate --level 5 plugins/libTextOperPlugin.so");
+    return QStringLiteral("oprun validate plugins/libTextOperPlugin.so");
 }
 
 QStringList ValidateCommand::arguments() const
