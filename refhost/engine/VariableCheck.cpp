@@ -2,43 +2,10 @@
 
 #include "refhost/engine/ExactValue.h"
 #include "refhost/engine/TaskProblem.h"
+#include "refhost/engine/ValueType.h"
 #include "refhost/engine/VarTypeName.h"
 
-#include <algorithm>
-
 namespace {
-
-bool isList(const QVariant &value)
-{
-    return value.userType() == QMetaType::QVariantList;
-}
-
-bool isTable(const QVariant &value)
-{
-    const QVariantList rows = value.toList();
-    return isList(value) && std::all_of(rows.begin(), rows.end(), isList);
-}
-
-bool fits(const QVariant &value, VarType type)
-{
-    switch (type) {
-    case VarType::Int:
-        return value.userType() == QMetaType::Int;
-    case VarType::Double:
-        return value.userType() == QMetaType::Double;
-    case VarType::String:
-        return value.userType() == QMetaType::QString;
-    case VarType::Bool:
-        return value.userType() == QMetaType::Bool;
-    case VarType::List:
-        return isList(value);
-    case VarType::Table:
-        return isTable(value);
-    case VarType::None:
-        break;
-    }
-    return false;
-}
 
 QString expectation(VarType type)
 {
@@ -77,7 +44,7 @@ std::optional<Problem> VariableCheck::check(const TaskVariable &variable)
         return unknownType(place + QStringLiteral(".type"), static_cast<int>(variable.type),
                            varTypeNames());
     }
-    if (variable.value.isValid() && !fits(variable.value, variable.type)) {
+    if (variable.value.isValid() && !fitsType(variable.value, variable.type)) {
         return Problem{Problem::Reason::UnfitValue,
                        {},
                        place + QStringLiteral(".value"),

@@ -1,5 +1,6 @@
 #include "refhost/validator/checks/ResultTypesCheck.h"
 
+#include "refhost/engine/ValueType.h"
 #include "refhost/engine/VarTypeName.h"
 #include "refhost/validator/trials/SampleScope.h"
 #include "refhost/validator/trials/ShownValue.h"
@@ -7,27 +8,6 @@
 #include "refhost/validator/trials/StepTrial.h"
 
 namespace {
-
-/// Whether a variable of `type` may have the value.
-bool fits(const QVariant &value, VarType type)
-{
-    switch (type) {
-    case VarType::Int:
-        return value.userType() == QMetaType::Int;
-    case VarType::Double:
-        return value.userType() == QMetaType::Double;
-    case VarType::String:
-        return value.userType() == QMetaType::QString;
-    case VarType::Bool:
-        return value.userType() == QMetaType::Bool;
-    case VarType::List:
-    case VarType::Table:
-        return value.userType() == QMetaType::QVariantList;
-    case VarType::None:
-        break;
-    }
-    return !value.isValid();
-}
 
 /// One line, and one more where the setting names another variable that may be unfit, too.
 int mostWarnings(const Specimen &specimen, const Setting &setting)
@@ -52,7 +32,7 @@ void examineTrial(Specimen &specimen, const Setting &setting, VarType type)
         specimen.warn(QStringLiteral("%1: writes it and logs a warning").arg(place));
     else if (!isWritten && warnings == 0 && !trial.trace.thrown)
         specimen.warn(QStringLiteral("%1: neither writes it nor logs a warning").arg(place));
-    if (!fits(value, type)) {
+    if (!fitsType(value, type)) {
         specimen.fail(QStringLiteral("%1: writes %2, of type %3")
                           .arg(place, shownValue(value), QString::fromLatin1(value.typeName())));
     }
