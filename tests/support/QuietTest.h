@@ -13,7 +13,7 @@ protected:
     /// The warnings logged so far, oldest first; they are forgotten by this call.
     QStringList takeWarnings();
 
-private Q_SLOTS:
+protected Q_SLOTS:
     void init();
     void cleanup();
 };

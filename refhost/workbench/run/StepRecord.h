@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+#include <QVector>
+
+/// An operand of a step that has run: as it was written and what the step found.
+struct OperandRecord
+{
+    QString property;
+    QString label;
+    QString written;
+    QVariant found; ///< invalid when there was no such value
+    bool isReference = false;
+};
+
+/// A variable that a step has written, with the value it got.
+struct WriteRecord
+{
+    QString variable;
+    QVariant value;
+};
+
+/// What one step of a run did.
+struct StepRecord
+{
+    int step = 0;  ///< its identifier
+    int row = 0;   ///< where it stood when it ran, counted from 0
+    int round = 0; ///< counts the steps of a run, from 1
+    QString summary;
+    QVector<OperandRecord> operands;
+    QVector<WriteRecord> writes;
+    QStringList warnings;
+    qint64 nanoseconds = 0; ///< what the step itself took
+    QDateTime time;         ///< when it began
+};
