@@ -1,5 +1,6 @@
 #include "refhost/engine/PluginFolder.h"
 #include "refhost/workbench/files/FileActions.h"
+#include "refhost/workbench/look/Appearance.h"
 #include "refhost/workbench/window/MainWindow.h"
 #include "refhost/workbench/window/Workbench.h"
 
@@ -12,6 +13,7 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("opworkbench"));
     QCoreApplication::setApplicationVersion(QStringLiteral(OPWORKBENCH_VERSION));
+    applyAppearance(QStringLiteral("light"));
     Workbench bench(pluginFiles(pluginFolders(QCoreApplication::applicationDirPath())));
     MainWindow window(bench);
     if (argc > 1)

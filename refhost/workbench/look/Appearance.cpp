@@ -1,0 +1,81 @@
+#include "refhost/workbench/look/Appearance.h"
+
+#include <QApplication>
+#include <QPalette>
+#include <QStyle>
+#include <QStyleFactory>
+
+namespace {
+
+struct Colors
+{
+    QColor window;
+    QColor base;
+    QColor alternate;
+    QColor button;
+    QColor text;
+    QColor disabled;
+    QColor highlight;
+    QColor mid;
+};
+
+const Colors lightColors{QColor(0xf5, 0xf6, 0xf8), QColor(0xff, 0xff, 0xff),
+                         QColor(0xf9, 0xfa, 0xfb), QColor(0xf2, 0xf4, 0xf7),
+                         QColor(0x1d, 0x29, 0x39), QColor(0x98, 0xa2, 0xb3),
+                         QColor(0x15, 0x70, 0xef), QColor(0x98, 0xa2, 0xb3)};
+
+const Colors darkColors{QColor(0x22, 0x25, 0x2a), QColor(0x1a, 0x1c, 0x20),
+                        QColor(0x20, 0x23, 0x28), QColor(0x2c, 0x30, 0x37),
+                        QColor(0xe4, 0xe7, 0xec), QColor(0x6b, 0x75, 0x85),
+                        QColor(0x2e, 0x6f, 0xd8), QColor(0x66, 0x70, 0x85)};
+
+QPalette paletteOf(const Colors &colors)
+{
+    QPalette palette(colors.button, colors.window);
+    palette.setColor(QPalette::Base, colors.base);
+    palette.setColor(QPalette::AlternateBase, colors.alternate);
+    palette.setColor(QPalette::ToolTipBase, colors.base);
+    palette.setColor(QPalette::Mid, colors.mid);
+    palette.setColor(QPalette::BrightText, Qt::white);
+    palette.setColor(QPalette::Link, colors.highlight);
+    palette.setColor(QPalette::PlaceholderText, colors.disabled);
+    for (const auto role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
+        palette.setColor(role, colors.text);
+        palette.setColor(QPalette::Disabled, role, colors.disabled);
+    }
+    palette.setColor(QPalette::Highlight, colors.highlight);
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, colors.mid);
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    return palette;
+}
+
+QString lightName()
+{
+    return QStringLiteral("light");
+}
+
+QString darkName()
+{
+    return QStringLiteral("dark");
+}
+
+} // namespace
+
+bool applyAppearance(const QString &name)
+{
+    if (name == lightName() || name == darkName()) {
+        QApplication::setStyle(QStringLiteral("fusion"));
+        QApplication::setPalette(paletteOf(name == darkName() ? darkColors : lightColors));
+        return true;
+    }
+    return QApplication::setStyle(name) != nullptr;
+}
+
+QStringList appearanceNames()
+{
+    QStringList names = QStyleFactory::keys();
+    for (QString &name : names)
+        name = name.toLower();
+    return QStringList{lightName(), darkName()} + names;
+}

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QStringList>
+
+/// Gives the application a look: "light", "dark", or a style of Qt such as "fusion" with the
+/// palette of the system. Whether there is such a look.
+bool applyAppearance(const QString &name);
+
+/// All the looks there are.
+QStringList appearanceNames();
