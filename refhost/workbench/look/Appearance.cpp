@@ -60,16 +60,28 @@ QString darkName()
     return QStringLiteral("dark");
 }
 
+QString &appliedName()
+{
+    static QString name;
+    return name;
+}
+
 } // namespace
 
 bool applyAppearance(const QString &name)
 {
-    if (name == lightName() || name == darkName()) {
-        QApplication::setStyle(QStringLiteral("fusion"));
+    const bool isOwn = name == lightName() || name == darkName();
+    if (!QApplication::setStyle(isOwn ? QStringLiteral("fusion") : name))
+        return false;
+    if (isOwn)
         QApplication::setPalette(paletteOf(name == darkName() ? darkColors : lightColors));
-        return true;
-    }
-    return QApplication::setStyle(name) != nullptr;
+    appliedName() = name;
+    return true;
+}
+
+QString currentAppearance()
+{
+    return appliedName();
 }
 
 QStringList appearanceNames()

@@ -8,3 +8,6 @@ bool applyAppearance(const QString &name);
 
 /// All the looks there are.
 QStringList appearanceNames();
+
+/// The look that was applied last, empty before the first.
+QString currentAppearance();

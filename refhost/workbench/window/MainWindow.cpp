@@ -3,58 +3,117 @@
 #include "refhost/workbench/catalog/CatalogPanel.h"
 #include "refhost/workbench/editor/EditorPanel.h"
 #include "refhost/workbench/files/FileActions.h"
+#include "refhost/workbench/look/SymbolIcon.h"
 #include "refhost/workbench/run/FindingsPanel.h"
 #include "refhost/workbench/run/LogPanel.h"
 #include "refhost/workbench/run/OperandsPanel.h"
 #include "refhost/workbench/run/RunActions.h"
 #include "refhost/workbench/steps/StepsPanel.h"
 #include "refhost/workbench/variables/VariablesPanel.h"
+#include "refhost/workbench/window/AboutText.h"
+#include "refhost/workbench/window/EditActions.h"
+#include "refhost/workbench/window/StatusLine.h"
+#include "refhost/workbench/window/ViewMenu.h"
 #include "refhost/workbench/window/Workbench.h"
 
 #include <QAction>
 #include <QCloseEvent>
 #include <QDockWidget>
+#include <QDragEnterEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
+#include <QSettings>
 #include <QToolBar>
+
+namespace {
+
+QString geometryKey()
+{
+    return QStringLiteral("window/geometry");
+}
+
+QString layoutKey()
+{
+    return QStringLiteral("window/layout");
+}
+
+} // namespace
 
 MainWindow::MainWindow(Workbench &bench, QWidget *parent)
     : QMainWindow(parent)
     , m_bench(bench)
     , m_files(new FileActions(bench, this))
     , m_run(new RunActions(bench, this))
+    , m_view(new ViewMenu(this))
+    , m_status(new StatusLine(bench, this))
 {
+    setObjectName(QStringLiteral("window"));
+    setWindowIcon(symbolIcon(QStringLiteral("workbench")));
+    setAcceptDrops(true);
+    setStatusBar(m_status);
     createPanels();
     createMenus();
+    connect(m_view, &ViewMenu::languageChosen, this, &MainWindow::languageChosen);
+}
+
+void MainWindow::rememberLayout()
+{
+    m_remembers = true;
+    const QSettings settings;
+    restoreGeometry(settings.value(geometryKey()).toByteArray());
+    restoreState(settings.value(layoutKey()).toByteArray());
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
     event->setAccepted(m_files->mayLeave());
+    if (!event->isAccepted() || !m_remembers)
+        return;
+    QSettings settings;
+    settings.setValue(geometryKey(), saveGeometry());
+    settings.setValue(layoutKey(), saveState());
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (m_files->canOpenDropped(*event->mimeData()))
+        event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent *event)
+{
+    if (m_files->openDropped(*event->mimeData()))
+        event->acceptProposedAction();
 }
 
 QDockWidget *MainWindow::addDock(const QString &name, const QString &title, QWidget *panel,
                                  Qt::DockWidgetArea area)
 {
     auto *const dock = new QDockWidget(title, this);
-    dock->setObjectName(name);
+    dock->setObjectName(QStringLiteral("dock.") + name);
     dock->setWidget(panel);
     addDockWidget(area, dock);
+    m_view->addPanel(dock->toggleViewAction());
     return dock;
 }
 
 void MainWindow::createPanels()
 {
+    setDockOptions(AnimatedDocks | AllowNestedDocks | AllowTabbedDocks);
+    setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     m_steps = new StepsPanel(m_bench, this);
+    m_variables = new VariablesPanel(m_bench, this);
     setCentralWidget(m_steps);
-    addDock(QStringLiteral("catalog"), tr("操作"), new CatalogPanel(m_bench, this),
-            Qt::LeftDockWidgetArea);
-    addDock(QStringLiteral("editor"), tr("编辑"), new EditorPanel(m_bench, this),
-            Qt::RightDockWidgetArea);
-    addDock(QStringLiteral("operands"), tr("上次运行"), new OperandsPanel(m_bench, this),
-            Qt::RightDockWidgetArea);
-    addDock(QStringLiteral("variables"), tr("变量"), new VariablesPanel(m_bench, this),
-            Qt::BottomDockWidgetArea);
+    QDockWidget *const catalog = addDock(QStringLiteral("catalog"), tr("操作"),
+                                         new CatalogPanel(m_bench, this), Qt::LeftDockWidgetArea);
+    QDockWidget *const editor = addDock(QStringLiteral("editor"), tr("编辑步骤"),
+                                        new EditorPanel(m_bench, this), Qt::RightDockWidgetArea);
+    QDockWidget *const operands =
+        addDock(QStringLiteral("operands"), tr("上次运行"), new OperandsPanel(m_bench, this),
+                Qt::RightDockWidgetArea);
+    QDockWidget *const variables =
+        addDock(QStringLiteral("variables"), tr("变量"), m_variables, Qt::BottomDockWidgetArea);
     QDockWidget *const log = addDock(QStringLiteral("log"), tr("日志"), new LogPanel(m_bench, this),
                                      Qt::BottomDockWidgetArea);
     QDockWidget *const findings =
@@ -62,22 +121,47 @@ void MainWindow::createPanels()
                 Qt::BottomDockWidgetArea);
     tabifyDockWidget(log, findings);
     log->raise();
+    const int unit = fontMetrics().height();
+    resizeDocks({catalog, editor}, {13 * unit, 24 * unit}, Qt::Horizontal);
+    resizeDocks({variables}, {14 * unit}, Qt::Vertical);
+    resizeDocks({variables, log}, {30 * unit, 24 * unit}, Qt::Horizontal);
+    resizeDocks({editor, operands}, {34 * unit, 14 * unit}, Qt::Vertical);
 }
 
 void MainWindow::createMenus()
 {
-    QMenu *const fileMenu = menuBar()->addMenu(tr("文件(&F)"));
-    m_files->addTo(*fileMenu);
-    menuBar()->addMenu(createEditMenu());
-    QMenu *const runMenu = menuBar()->addMenu(tr("运行(&R)"));
-    runMenu->addActions(m_run->actions());
-    QToolBar *const bar = addToolBar(tr("运行"));
-    bar->setObjectName(QStringLiteral("runBar"));
-    bar->addActions(m_run->actions());
+    auto *const edit = new EditActions(m_bench.document, this);
+    m_files->addTo(*menuBar()->addMenu(tr("文件(&F)")));
+
+    QMenu *const editMenu = menuBar()->addMenu(tr("编辑(&E)"));
+    editMenu->addActions(edit->actions());
+    editMenu->addSeparator();
+    editMenu->addActions(m_steps->editActions());
+    menuBar()->addMenu(tr("变量(&B)"))->addActions(m_variables->actions());
+    menuBar()->addMenu(tr("运行(&R)"))->addActions(m_run->actions());
+    menuBar()->addMenu(m_view);
+    menuBar()->addMenu(tr("帮助(&H)"))->addAction(tr("关于(&A)"), this, &MainWindow::showAbout);
+
+    addToolBarOf(QStringLiteral("file"), tr("文件工具栏"), m_files->toolBarActions());
+    addToolBarOf(QStringLiteral("edit"), tr("编辑工具栏"), edit->actions());
+    addToolBarOf(QStringLiteral("run"), tr("运行工具栏"), m_run->actions());
 }
 
-QMenu *MainWindow::createEditMenu()
+void MainWindow::addToolBarOf(const QString &name, const QString &title,
+                              const QList<QAction *> &actions)
 {
-    auto *const menu = new QMenu(tr("编辑(&E)"), this);
-    return menu;
+    QToolBar *const bar = addToolBar(title);
+    bar->setObjectName(QStringLiteral("bar.") + name);
+    bar->addActions(actions);
+    m_view->addPanel(bar->toggleViewAction());
+}
+
+void MainWindow::showAbout()
+{
+    auto *const box = new QMessageBox(QMessageBox::NoIcon, tr("关于操作工作台"),
+                                      aboutText(m_bench.library.catalog()), QMessageBox::Ok, this);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setTextFormat(Qt::PlainText);
+    box->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    box->open();
 }

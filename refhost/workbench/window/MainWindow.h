@@ -2,12 +2,12 @@
 
 #include <QMainWindow>
 
-class CatalogPanel;
-class EditorPanel;
 class FileActions;
 class RunActions;
+class StatusLine;
 class StepsPanel;
 class VariablesPanel;
+class ViewMenu;
 struct Workbench;
 
 /// The window: the steps in the middle, the other panels docked around them.
@@ -21,19 +21,33 @@ public:
 
     FileActions &files() { return *m_files; }
 
+    /// Takes over place, size and panels of the last window, and keeps those of this one when it is
+    /// closed.
+    void rememberLayout();
+
+Q_SIGNALS:
+    /// Another language is wanted, for which the window has to be made anew.
+    void languageChosen(const QString &name);
+
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 private:
     QDockWidget *addDock(const QString &name, const QString &title, QWidget *panel,
                          Qt::DockWidgetArea area);
     void createPanels();
     void createMenus();
-    QMenu *createEditMenu();
+    void addToolBarOf(const QString &name, const QString &title, const QList<QAction *> &actions);
+    void showAbout();
 
     Workbench &m_bench;
     FileActions *m_files;
     RunActions *m_run;
+    ViewMenu *m_view;
+    StatusLine *m_status;
     StepsPanel *m_steps = nullptr;
-    QMenu *m_viewMenu = nullptr;
+    VariablesPanel *m_variables = nullptr;
+    bool m_remembers = false;
 };

@@ -1,0 +1,50 @@
+#include "refhost/workbench/window/ViewMenu.h"
+
+#include "refhost/workbench/look/Appearance.h"
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QSettings>
+
+ViewMenu::ViewMenu(QWidget *parent)
+    : QMenu(tr("视图(&V)"), parent)
+    , m_panelsEnd(addSeparator())
+{
+    addAppearances();
+    addLanguages();
+}
+
+void ViewMenu::addPanel(QAction *toggle)
+{
+    insertAction(m_panelsEnd, toggle);
+}
+
+void ViewMenu::addAppearances()
+{
+    QMenu *const menu = addMenu(tr("外观(&A)"));
+    auto *const group = new QActionGroup(menu);
+    const auto add = [&](const QString &name, const QString &text) {
+        QAction *const action = menu->addAction(text);
+        action->setCheckable(true);
+        action->setChecked(name == currentAppearance());
+        group->addAction(action);
+        connect(action, &QAction::triggered, this, [name] {
+            applyAppearance(name);
+            QSettings().setValue(QStringLiteral("style"), name);
+        });
+    };
+    add(QStringLiteral("light"), tr("浅色(&L)"));
+    add(QStringLiteral("dark"), tr("深色(&D)"));
+}
+
+void ViewMenu::addLanguages()
+{
+    // In their own words, so that everybody finds back.
+    QMenu *const menu = addMenu(QStringLiteral("语言 / &Language"));
+    const auto add = [&](const QString &name, const QString &text) {
+        connect(menu->addAction(text), &QAction::triggered, this,
+                [this, name] { Q_EMIT languageChosen(name); });
+    };
+    add(QStringLiteral("zh"), QStringLiteral("中文(&Z)"));
+    add(QStringLiteral("en"), QStringLiteral("&English"));
+}
