@@ -1,5 +1,6 @@
 #include "refhost/engine/ExactValue.h"
 
+#include "refhost/engine/EngineText.h"
 #include "refhost/engine/JsonValue.h"
 
 #include <QLocale>
@@ -25,20 +26,20 @@ bool isSameText(const QString &left, const QString &right)
 QString numberWords(double number)
 {
     if (std::isnan(number)) {
-        return QStringLiteral("no number (of the bits %1)")
+        return EngineText::tr("no number (of the bits %1)")
             .arg(bitsOf(number), 16, 16, QLatin1Char('0'));
     }
     // Qt writes both zeros alike.
     const bool minusZero = number == 0 && std::signbit(number);
-    return QStringLiteral("the floating-point number ") +
-           (minusZero ? QStringLiteral("-0")
-                      : QString::number(number, 'g', QLocale::FloatingPointShortest));
+    return EngineText::tr("the floating-point number %1")
+        .arg(minusZero ? QStringLiteral("-0")
+                       : QString::number(number, 'g', QLocale::FloatingPointShortest));
 }
 
 QString textWords(const QString &text)
 {
-    return text.isNull() ? QStringLiteral("a null text")
-                         : QStringLiteral("the text ") + jsonText(text);
+    return text.isNull() ? EngineText::tr("a null text")
+                         : EngineText::tr("the text %1").arg(jsonText(text));
 }
 
 } // namespace
@@ -66,20 +67,20 @@ QString valueWords(const QVariant &value)
 {
     switch (value.userType()) {
     case QMetaType::UnknownType:
-        return QStringLiteral("no value");
+        return EngineText::tr("no value");
     case QMetaType::Bool:
         return value.toString();
     case QMetaType::Int:
-        return QStringLiteral("the 32-bit number ") + value.toString();
+        return EngineText::tr("the 32-bit number %1").arg(value.toString());
     case QMetaType::LongLong:
-        return QStringLiteral("the 64-bit number ") + value.toString();
+        return EngineText::tr("the 64-bit number %1").arg(value.toString());
     case QMetaType::Double:
         return numberWords(value.toDouble());
     case QMetaType::QString:
         return textWords(value.toString());
     case QMetaType::QVariantList:
-        return QStringLiteral("a list of length %1").arg(value.toList().size());
+        return EngineText::tr("a list of length %1").arg(value.toList().size());
     default:
-        return QStringLiteral("a value of the type ") + QString::fromLatin1(value.typeName());
+        return EngineText::tr("a value of the type %1").arg(QString::fromLatin1(value.typeName()));
     }
 }

@@ -1,5 +1,6 @@
 #include "refhost/engine/FileBytes.h"
 
+#include "refhost/engine/EngineText.h"
 #include "refhost/engine/OutputFile.h"
 
 #include <QFile>
@@ -13,7 +14,7 @@ Problem unreadable(const QFile &file)
     return {Reason::UnreadableFile,
             file.fileName(),
             {},
-            QStringLiteral("cannot be read (%1)").arg(file.errorString())};
+            EngineText::tr("cannot be read (%1)").arg(file.errorString())};
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "refhost/engine/HostRefusal.h"
 
+#include "refhost/engine/EngineText.h"
+
 #include "IOperationPlugin.h"
 
 namespace {
@@ -16,14 +18,13 @@ QStringList hostCapabilities()
 QString hostRefusal(const IOperationPlugin &plugin)
 {
     if (plugin.apiVersion() != hostApiVersion) {
-        return QStringLiteral("it is built for interface version %1, this host has version %2")
-            .arg(plugin.apiVersion())
-            .arg(hostApiVersion);
+        return EngineText::tr("it is built for interface version %1, this host has version %2")
+            .arg(QString::number(plugin.apiVersion()), QString::number(hostApiVersion));
     }
     const QStringList needed = plugin.requiredCapabilities();
     for (const QString &capability : needed) {
         if (!hostCapabilities().contains(capability))
-            return QStringLiteral("it requires \"%1\", which this host lacks").arg(capability);
+            return EngineText::tr("it requires \"%1\", which this host lacks").arg(capability);
     }
     return {};
 }

@@ -1,5 +1,6 @@
 #include "refhost/engine/JsonFile.h"
 
+#include "refhost/engine/EngineText.h"
 #include "refhost/engine/FileBytes.h"
 
 #include <QJsonDocument>
@@ -11,7 +12,7 @@ namespace {
 
 QString lineAndColumn(qint64 line, int column)
 {
-    return QStringLiteral("line %1, column %2").arg(line).arg(column);
+    return EngineText::tr("line %1, column %2").arg(QString::number(line), QString::number(column));
 }
 
 QString placeOf(const QJsonParseError &error, const QByteArray &text, qint64 firstLine)
@@ -32,11 +33,11 @@ Result<QJsonObject> parseJsonObject(const QByteArray &json, const QString &file,
     const QJsonDocument document = QJsonDocument::fromJson(json, &error);
     if (error.error != QJsonParseError::NoError) {
         return Problem{Problem::Reason::MalformedJson, file, placeOf(error, json, firstLine),
-                       QStringLiteral("malformed JSON (%1)").arg(error.errorString())};
+                       EngineText::tr("malformed JSON (%1)").arg(error.errorString())};
     }
     if (!document.isObject()) {
         return Problem{Problem::Reason::WrongKind, file, lineAndColumn(firstLine, 1),
-                       QStringLiteral("an array; expected an object in braces")};
+                       EngineText::tr("an array; expected an object in braces")};
     }
     return document.object();
 }

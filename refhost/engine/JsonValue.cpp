@@ -1,6 +1,6 @@
 #include "refhost/engine/JsonValue.h"
 
-#include "refhost/engine/VarTypeName.h"
+#include "refhost/engine/EngineText.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -23,28 +23,28 @@ Problem unfit(const QString &found, const QString &expected)
     return {Problem::Reason::UnfitValue,
             {},
             {},
-            QStringLiteral("%1; expected %2").arg(found, expected)};
+            EngineText::tr("%1; expected %2").arg(found, expected)};
 }
 
 QString expectation(VarType type)
 {
     switch (type) {
     case VarType::Int:
-        return QStringLiteral("a whole number from -2147483648 to 2147483647");
+        return EngineText::tr("a whole number from -2147483648 to 2147483647");
     case VarType::Double:
-        return QStringLiteral("a number, or one of \"inf\", \"-inf\" and \"nan\"");
+        return EngineText::tr("a number, or one of \"inf\", \"-inf\" and \"nan\"");
     case VarType::String:
-        return QStringLiteral("a string");
+        return EngineText::tr("a string");
     case VarType::Bool:
-        return QStringLiteral("true or false");
+        return EngineText::tr("true or false");
     case VarType::List:
-        return QStringLiteral("an array of strings, numbers, booleans and such arrays");
+        return EngineText::tr("an array of strings, numbers, booleans and such arrays");
     case VarType::Table:
-        return QStringLiteral("an array of rows, each an array");
+        return EngineText::tr("an array of rows, each an array");
     case VarType::None:
         break;
     }
-    return QStringLiteral("a value of a known type");
+    return EngineText::tr("a value of a known type");
 }
 
 bool isSpecialNumber(const QString &text)
@@ -191,12 +191,16 @@ QJsonValue variantToJson(const QVariant &value)
 
 Problem wrongKind(const QString &place, const QJsonValue &found, const QString &expected)
 {
-    const bool missing = found.isUndefined();
-    return {missing ? Problem::Reason::MissingKey : Problem::Reason::WrongKind,
+    if (found.isUndefined()) {
+        return {Problem::Reason::MissingKey,
+                {},
+                place,
+                EngineText::tr("missing; expected %1").arg(expected)};
+    }
+    return {Problem::Reason::WrongKind,
             {},
             place,
-            QStringLiteral("%1; expected %2")
-                .arg(missing ? QStringLiteral("missing") : jsonText(found), expected)};
+            EngineText::tr("%1; expected %2").arg(jsonText(found), expected)};
 }
 
 QString jsonText(const QJsonValue &json)

@@ -1,5 +1,6 @@
 #include "refhost/engine/LoadedPlugin.h"
 
+#include "refhost/engine/EngineText.h"
 #include "refhost/engine/HostRefusal.h"
 
 #include "IOperationPlugin.h"
@@ -15,7 +16,7 @@ Problem notLoaded(const QString &path, const QString &reason)
     return {Problem::Reason::PluginNotLoaded,
             path,
             {},
-            QStringLiteral("cannot be loaded as a plug-in (%1)").arg(reason)};
+            EngineText::tr("cannot be loaded as a plug-in (%1)").arg(reason)};
 }
 
 } // namespace
@@ -28,7 +29,7 @@ LoadedPlugin &LoadedPlugin::operator=(LoadedPlugin &&other) noexcept = default;
 Result<LoadedPlugin> LoadedPlugin::load(const QString &path)
 {
     if (!QFileInfo(path).isFile())
-        return notLoaded(path, QStringLiteral("there is no such file"));
+        return notLoaded(path, EngineText::tr("there is no such file"));
     // Qt would look for a relative path in its own plug-in folders, not here.
     QPluginLoader loader(QFileInfo(path).absoluteFilePath());
     QObject *const root = loader.instance();
@@ -36,7 +37,7 @@ Result<LoadedPlugin> LoadedPlugin::load(const QString &path)
         return notLoaded(path, loader.errorString());
     auto *const plugin = qobject_cast<IOperationPlugin *>(root);
     if (!plugin) {
-        return notLoaded(path, QStringLiteral("its root object does not implement %1")
+        return notLoaded(path, EngineText::tr("its root object does not implement %1")
                                    .arg(QStringLiteral(IOperationPlugin_iid)));
     }
     const QString reason = hostRefusal(*plugin);

@@ -1,5 +1,7 @@
 #include "refhost/engine/OperationCatalog.h"
 
+#include "refhost/engine/EngineText.h"
+
 #include "Operation.h"
 
 #include <algorithm>
@@ -23,7 +25,7 @@ QList<CatalogEntry> entriesOf(const LoadedPlugin &plugin)
     for (const auto &prototype : plugin.prototypes()) {
         CatalogEntry entry;
         entry.root = prototype->root();
-        // The manifest has the untranslated text; the reference host installs no translations.
+        // The manifest has the untranslated text; the reference host translates none of a plug-in.
         entry.rootWeight = manifest.rootOrder.value(entry.root, noWeight);
         entry.typeId = prototype->typeId();
         entry.weight = manifest.typeOrder.value(entry.typeId, noWeight);
@@ -57,7 +59,7 @@ void OperationCatalog::add(LoadedPlugin plugin)
                 {Problem::Reason::PluginNotLoaded,
                  plugin.path(),
                  {},
-                 QStringLiteral("contributes \"%1\", which is there already").arg(entry.typeId)});
+                 EngineText::tr("contributes \"%1\", which is there already").arg(entry.typeId)});
             return;
         }
         taken.append(entry.typeId);

@@ -1,5 +1,7 @@
 #include "refhost/engine/OutputFile.h"
 
+#include "refhost/engine/EngineText.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -16,7 +18,7 @@ OutputFile::~OutputFile() = default;
 
 QString OutputFile::name() const
 {
-    return isStandardOutput() ? QStringLiteral("standard output") : m_name;
+    return isStandardOutput() ? EngineText::tr("standard output") : m_name;
 }
 
 bool OutputFile::isStandardOutput() const
@@ -30,7 +32,7 @@ Problem OutputFile::unwritable(const QString &reason) const
     return {Problem::Reason::UnwritableFile,
             name(),
             {},
-            QStringLiteral("cannot be written (%1)").arg(reason)};
+            EngineText::tr("cannot be written (%1)").arg(reason)};
 }
 
 std::optional<Problem> OutputFile::open()

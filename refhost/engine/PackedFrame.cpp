@@ -1,5 +1,6 @@
 #include "refhost/engine/PackedFrame.h"
 
+#include "refhost/engine/EngineText.h"
 #include "refhost/engine/PackedForm.h"
 
 #include <QDataStream>
@@ -22,22 +23,26 @@ quint32 headerNumber(const QByteArray &bytes, int offset)
     return qFromBigEndian<quint32>(bytes.constData() + offset);
 }
 
-Problem cutOff(const QByteArray &bytes, const QString &expected)
+Problem cutOff(const QByteArray &bytes, quint32 expected)
 {
-    return problem(Reason::WrongLength, QStringLiteral("is cut off after %1 bytes; expected %2")
-                                            .arg(QString::number(bytes.size()), expected));
+    return problem(Reason::WrongLength,
+                   EngineText::tr("is cut off after %1 bytes; expected %2")
+                       .arg(QString::number(bytes.size()), QString::number(expected)));
 }
 
 Problem tooSmall(const QByteArray &bytes)
 {
-    return cutOff(bytes, QStringLiteral("%1 or more").arg(PackedForm::smallestFile));
+    return problem(
+        Reason::WrongLength,
+        EngineText::tr("is cut off after %1 bytes; expected %2 or more")
+            .arg(QString::number(bytes.size()), QString::number(PackedForm::smallestFile)));
 }
 
 std::optional<Problem> checkFormat(const QByteArray &bytes)
 {
     if (bytes.isEmpty() || !isPackedTask(bytes)) {
         return problem(Reason::UnknownFormat,
-                       QStringLiteral("is no packed task; expected the bytes %1 first")
+                       EngineText::tr("is no packed task; expected the bytes %1 first")
                            .arg(QString::fromLatin1(PackedForm::magic().toHex(' '))));
     }
     if (bytes.size() < PackedForm::lengthOffset)
@@ -45,14 +50,13 @@ std::optional<Problem> checkFormat(const QByteArray &bytes)
     const quint32 version = headerNumber(bytes, PackedForm::versionOffset);
     if (version > PackedForm::version) {
         return problem(Reason::NewerFormat,
-                       QStringLiteral("is of format %1; this program reads up to %2")
-                           .arg(version)
-                           .arg(PackedForm::version));
+                       EngineText::tr("is of format %1; this program reads up to %2")
+                           .arg(QString::number(version), QString::number(PackedForm::version)));
     }
     if (version < PackedForm::version) {
-        return problem(Reason::UnknownFormat, QStringLiteral("is of format %1; the first is %2")
-                                                  .arg(version)
-                                                  .arg(PackedForm::version));
+        return problem(Reason::UnknownFormat,
+                       EngineText::tr("is of format %1; the first is %2")
+                           .arg(QString::number(version), QString::number(PackedForm::version)));
     }
     return std::nullopt;
 }
@@ -64,10 +68,11 @@ std::optional<Problem> checkLength(const QByteArray &bytes)
     const quint32 length = headerNumber(bytes, PackedForm::lengthOffset);
     const auto size = static_cast<quint32>(bytes.size());
     if (size < length)
-        return cutOff(bytes, QString::number(length));
+        return cutOff(bytes, length);
     if (size > length) {
         return problem(Reason::WrongLength,
-                       QStringLiteral("has %1 bytes; expected %2").arg(size).arg(length));
+                       EngineText::tr("has %1 bytes; expected %2")
+                           .arg(QString::number(size), QString::number(length)));
     }
     if (length < PackedForm::smallestFile)
         return tooSmall(bytes);
@@ -79,7 +84,7 @@ std::optional<Problem> checkChecksum(const QByteArray &bytes)
     if (bytes.endsWith(PackedForm::checksum(bytes.chopped(PackedForm::checksumSize))))
         return std::nullopt;
     return problem(Reason::AlteredFile,
-                   QStringLiteral("has been altered; its checksum is that of other bytes"));
+                   EngineText::tr("has been altered; its checksum is that of other bytes"));
 }
 
 std::optional<Problem> checkRecordVersion(quint32 version)
@@ -87,14 +92,13 @@ std::optional<Problem> checkRecordVersion(quint32 version)
     if (version > PackedForm::newestRecordVersion) {
         return problem(
             Reason::NewerFormat,
-            QStringLiteral("has records of stream version %1; this program reads up to %2")
-                .arg(version)
-                .arg(PackedForm::newestRecordVersion));
+            EngineText::tr("has records of stream version %1; this program reads up to %2")
+                .arg(QString::number(version), QString::number(PackedForm::newestRecordVersion)));
     }
     if (version == 0) {
         return problem(
             Reason::MalformedContent,
-            QStringLiteral("has records of stream version 0; expected a version from 1 to %1")
+            EngineText::tr("has records of stream version 0; expected a version from 1 to %1")
                 .arg(PackedForm::newestRecordVersion));
     }
     return std::nullopt;

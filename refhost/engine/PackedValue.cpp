@@ -1,5 +1,6 @@
 #include "refhost/engine/PackedValue.h"
 
+#include "refhost/engine/EngineText.h"
 #include "refhost/engine/ExactValue.h"
 #include "refhost/engine/PackedForm.h"
 
@@ -16,7 +17,7 @@ Problem tooDeep(Problem::Reason reason)
     return {reason,
             {},
             {},
-            QStringLiteral("more than %1 lists within each other; expected fewer")
+            EngineText::tr("more than %1 lists within each other; expected fewer")
                 .arg(PackedForm::deepestList)};
 }
 
@@ -77,7 +78,7 @@ std::optional<Problem> writeValue(QDataStream &stream, const QVariant &value, in
         return Problem{Problem::Reason::UnfitValue,
                        {},
                        {},
-                       QStringLiteral("%1; expected a text, a number, true or false, or a list")
+                       EngineText::tr("%1; expected a text, a number, true or false, or a list")
                            .arg(valueWords(value))};
     }
 }
@@ -100,8 +101,8 @@ Result<QVariant> readList(QDataStream &stream, int depth)
     stream >> count;
     const qint64 room = stream.device()->bytesAvailable();
     if (count > room) {
-        return malformed(
-            QStringLiteral("a list of length %1; there is room for %2").arg(count).arg(room));
+        return malformed(EngineText::tr("a list of length %1; there is room for %2")
+                             .arg(QString::number(count), QString::number(room)));
     }
     // Nothing is reserved: each of many lists within each other may claim all the room there is.
     QVariantList list;
@@ -135,10 +136,10 @@ Result<QVariant> readPlainValue(QDataStream &stream, ValueKind kind)
     case ValueKind::List:
         break;
     }
-    return malformed(QStringLiteral("a value of kind %1; expected a kind from %2 to %3")
-                         .arg(static_cast<int>(kind))
-                         .arg(static_cast<int>(ValueKind::None))
-                         .arg(static_cast<int>(ValueKind::List)));
+    return malformed(EngineText::tr("a value of kind %1; expected a kind from %2 to %3")
+                         .arg(QString::number(static_cast<int>(kind)),
+                              QString::number(static_cast<int>(ValueKind::None)),
+                              QString::number(static_cast<int>(ValueKind::List))));
 }
 
 Result<QVariant> readValue(QDataStream &stream, int depth)
@@ -149,7 +150,7 @@ Result<QVariant> readValue(QDataStream &stream, int depth)
     Result<QVariant> value =
         kind == ValueKind::List ? readList(stream, depth + 1) : readPlainValue(stream, kind);
     if (stream.status() != QDataStream::Ok)
-        return malformed(QStringLiteral("a value beyond the end, or a text of half letters"));
+        return malformed(EngineText::tr("a value beyond the end, or a text of half letters"));
     return value;
 }
 

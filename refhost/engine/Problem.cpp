@@ -1,18 +1,22 @@
 #include "refhost/engine/Problem.h"
 
+#include "refhost/engine/EngineText.h"
+
 #include <QStringList>
 
 QString Problem::toString() const
 {
-    QStringList parts;
-    for (const QString &part : {file, place, message}) {
-        if (!part.isEmpty())
-            parts.append(part);
+    QString text = file;
+    for (const QString &part : {place, message}) {
+        if (text.isEmpty())
+            text = part;
+        else if (!part.isEmpty())
+            text = EngineText::tr("%1: %2").arg(text, part);
     }
-    return parts.join(QLatin1String(": "));
+    return text;
 }
 
 Problem emptyFileName(Problem::Reason reason)
 {
-    return {reason, {}, {}, QStringLiteral("an empty file name; expected a file")};
+    return {reason, {}, {}, EngineText::tr("an empty file name; expected a file")};
 }

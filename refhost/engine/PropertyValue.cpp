@@ -1,5 +1,6 @@
 #include "refhost/engine/PropertyValue.h"
 
+#include "refhost/engine/EngineText.h"
 #include "refhost/engine/JsonValue.h"
 
 #include <QLocale>
@@ -11,13 +12,13 @@ QString quotedList(const QStringList &texts)
     QStringList quoted;
     for (const QString &text : texts)
         quoted.append(QLatin1Char('"') + text + QLatin1Char('"'));
-    return quoted.join(QLatin1String(", "));
+    return listText(quoted);
 }
 
 Problem unfit(const QJsonValue &json, const QString &expected,
               Problem::Reason reason = Problem::Reason::UnfitValue)
 {
-    return {reason, {}, {}, QStringLiteral("%1; expected %2").arg(jsonText(json), expected)};
+    return {reason, {}, {}, EngineText::tr("%1; expected %2").arg(jsonText(json), expected)};
 }
 
 bool isNumericOperand(const PropertySchema &schema)
@@ -30,9 +31,9 @@ Result<QVariant> operandFromJson(const QJsonValue &json, const PropertySchema &s
     if (json.isString())
         return QVariant(json.toString());
     if (!isNumericOperand(schema))
-        return unfit(json, QStringLiteral("a string"));
+        return unfit(json, EngineText::tr("a string"));
     if (!json.isDouble())
-        return unfit(json, QStringLiteral("a number or a string"));
+        return unfit(json, EngineText::tr("a number or a string"));
     return QVariant(QString::number(json.toDouble(), 'f', QLocale::FloatingPointShortest));
 }
 
@@ -47,7 +48,7 @@ Result<QVariant> choiceFromJson(const QJsonValue &json, const PropertySchema &sc
     }
     return unfit(
         json,
-        QStringLiteral("one of %1, or the number of a choice").arg(quotedList(schema.choices)),
+        EngineText::tr("one of %1, or the number of a choice").arg(quotedList(schema.choices)),
         Problem::Reason::UnknownChoice);
 }
 
@@ -65,7 +66,7 @@ Result<QVariant> propertyFromJson(const QJsonValue &json, const PropertySchema &
         return variantFromJson(json, VarType::Double);
     if (schema.typeName == QLatin1String("bool"))
         return variantFromJson(json, VarType::Bool);
-    return unfit(json, QStringLiteral("nothing: a property of type %1 cannot stand in a task file")
+    return unfit(json, EngineText::tr("nothing: a property of type %1 cannot stand in a task file")
                            .arg(schema.typeName));
 }
 

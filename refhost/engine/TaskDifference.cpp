@@ -1,5 +1,6 @@
 #include "refhost/engine/TaskDifference.h"
 
+#include "refhost/engine/EngineText.h"
 #include "refhost/engine/ExactValue.h"
 #include "refhost/engine/OperationSchema.h"
 #include "refhost/engine/Task.h"
@@ -31,7 +32,7 @@ std::optional<Problem> lostOfValue(const QVariant &value, const QVariant &back,
                 return problem;
         }
     }
-    return lost(place, QStringLiteral("%1; as JSON it would come back as %2")
+    return lost(place, EngineText::tr("%1; as JSON it would come back as %2")
                            .arg(valueWords(value), valueWords(back)));
 }
 
@@ -39,9 +40,9 @@ std::optional<Problem> lostOfVariables(const Task &task, const Task &back)
 {
     if (task.variables.size() != back.variables.size()) {
         return lost(QStringLiteral("variables"),
-                    QStringLiteral("%1 of them; from JSON %2 would come back")
-                        .arg(task.variables.size())
-                        .arg(back.variables.size()));
+                    EngineText::tr("%1 of them; from JSON %2 would come back")
+                        .arg(QString::number(task.variables.size()),
+                             QString::number(back.variables.size())));
     }
     QHash<QString, QVariant> backValues;
     for (const TaskVariable &variable : back.variables)
@@ -78,7 +79,7 @@ std::optional<Problem> lostOfStep(const Operation &step, const Operation &back,
     }
     if (ownRecord(step) == ownRecord(back))
         return std::nullopt;
-    return lost(place, QStringLiteral("%1 keeps more than its properties; JSON has only these")
+    return lost(place, EngineText::tr("%1 keeps more than its properties; JSON has only these")
                            .arg(step.typeId()));
 }
 

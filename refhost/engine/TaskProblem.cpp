@@ -1,5 +1,6 @@
 #include "refhost/engine/TaskProblem.h"
 
+#include "refhost/engine/EngineText.h"
 #include "refhost/engine/JsonValue.h"
 
 QString variablePlace(const QString &name)
@@ -12,25 +13,25 @@ QString stepPlace(int index)
     return QStringLiteral("steps[%1]").arg(index);
 }
 
-QString expectedWords(const QStringList &words)
-{
-    return QStringLiteral("expected ") + words.join(QLatin1String(", "));
-}
-
 Problem emptyName(const QString &place)
 {
     return {
-        Problem::Reason::UnfitValue, {}, place, QStringLiteral("an empty name; expected a name")};
+        Problem::Reason::UnfitValue, {}, place, EngineText::tr("an empty name; expected a name")};
 }
 
 Problem unknownType(const QString &place, const QJsonValue &found, const QStringList &known)
 {
-    const bool missing = found.isUndefined();
-    return {missing ? Problem::Reason::MissingKey : Problem::Reason::UnknownType,
+    const QString expected = listText(known);
+    if (found.isUndefined()) {
+        return {Problem::Reason::MissingKey,
+                {},
+                place,
+                EngineText::tr("missing; expected %1").arg(expected)};
+    }
+    return {Problem::Reason::UnknownType,
             {},
             place,
-            QStringLiteral("%1; %2").arg(missing ? QStringLiteral("missing") : jsonText(found),
-                                         expectedWords(known))};
+            EngineText::tr("%1; expected %2").arg(jsonText(found), expected)};
 }
 
 Problem unknownVariable(const QString &place, const QString &name, const QStringList &known)
@@ -38,7 +39,8 @@ Problem unknownVariable(const QString &place, const QString &name, const QString
     return {Problem::Reason::UnknownVariable,
             {},
             place,
-            QStringLiteral("the task has no variable %1; expected %2")
-                .arg(jsonText(name), known.isEmpty() ? QStringLiteral("none at all")
-                                                     : known.join(QLatin1String(", ")))};
+            known.isEmpty() ? EngineText::tr("the task has no variable %1; expected none at all")
+                                  .arg(jsonText(name))
+                            : EngineText::tr("the task has no variable %1; expected %2")
+                                  .arg(jsonText(name), listText(known))};
 }

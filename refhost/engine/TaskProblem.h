@@ -14,9 +14,6 @@ QString variablePlace(const QString &name);
 /// "steps[3]": where the step at `index` stands, counted from 0.
 QString stepPlace(int index);
 
-/// "expected int, double": the end of a message.
-QString expectedWords(const QStringList &words);
-
 /// That a variable at `place` has no name.
 Problem emptyName(const QString &place);
 

@@ -1,5 +1,6 @@
 #include "refhost/engine/TaskReader.h"
 
+#include "refhost/engine/EngineText.h"
 #include "refhost/engine/FileBytes.h"
 #include "refhost/engine/JsonFile.h"
 #include "refhost/engine/JsonValue.h"
@@ -47,8 +48,8 @@ std::optional<Problem> unknownKey(const QJsonObject &json, const QStringList &kn
     for (auto member = json.begin(); member != json.end(); ++member) {
         if (!known.contains(member.key())) {
             return at(place, Reason::UnknownKey,
-                      QStringLiteral("unknown key %1; %2")
-                          .arg(jsonText(member.key()), expectedWords(known)));
+                      EngineText::tr("unknown key %1; expected %2")
+                          .arg(jsonText(member.key()), listText(known)));
         }
     }
     return std::nullopt;
@@ -59,7 +60,7 @@ Result<TaskVariable> readVariable(const QString &name, const QJsonValue &json, c
     if (name.isEmpty())
         return emptyName(place);
     if (!json.isObject())
-        return wrongKind(place, json, QStringLiteral("an object with \"type\" and \"value\""));
+        return wrongKind(place, json, EngineText::tr("an object with \"type\" and \"value\""));
     const QJsonObject settings = json.toObject();
     const QString valueKey = QStringLiteral("value");
     if (const auto problem = unknownKey(settings, {typeKey(), valueKey}, place))
@@ -82,7 +83,7 @@ std::optional<Problem> readVariables(const QJsonValue &json, const QString &plac
     if (json.isUndefined())
         return std::nullopt;
     if (!json.isObject())
-        return wrongKind(place, json, QStringLiteral("an object of variables"));
+        return wrongKind(place, json, EngineText::tr("an object of variables"));
     const QJsonObject variables = json.toObject();
     for (auto member = variables.begin(); member != variables.end(); ++member) {
         const Result<TaskVariable> variable =
@@ -104,8 +105,8 @@ std::optional<Problem> applySettings(Operation &step, const QJsonObject &setting
         const PropertySchema *const property = schema.property(member.key());
         if (!property) {
             return at(propertyPlace, Reason::UnknownKey,
-                      QStringLiteral("%1 has no such property; %2")
-                          .arg(step.typeId(), expectedWords(schema.propertyNames())));
+                      EngineText::tr("%1 has no such property; expected %2")
+                          .arg(step.typeId(), listText(schema.propertyNames())));
         }
         const Result<QVariant> value = propertyFromJson(member.value(), *property);
         if (!value)
@@ -163,7 +164,7 @@ std::optional<Problem> TaskReader::readSteps(const QJsonValue &json, const QStri
                                              Task &task) const
 {
     if (!json.isArray())
-        return wrongKind(place, json, QStringLiteral("an array of steps"));
+        return wrongKind(place, json, EngineText::tr("an array of steps"));
     const QJsonArray list = json.toArray();
     for (int i = 0; i < list.size(); ++i) {
         auto step = readStep(list.at(i), QStringLiteral("%1[%2]").arg(place).arg(i));
@@ -178,7 +179,7 @@ Result<std::unique_ptr<Operation>> TaskReader::readStep(const QJsonValue &json,
                                                         const QString &place) const
 {
     if (!json.isObject())
-        return wrongKind(place, json, QStringLiteral("an object with \"type\" and properties"));
+        return wrongKind(place, json, EngineText::tr("an object with \"type\" and properties"));
     QJsonObject settings = json.toObject();
     const QJsonValue typeId = settings.take(typeKey());
     const CatalogEntry *const entry = m_catalog.find(typeId.toString());

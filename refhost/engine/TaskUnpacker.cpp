@@ -1,5 +1,6 @@
 #include "refhost/engine/TaskUnpacker.h"
 
+#include "refhost/engine/EngineText.h"
 #include "refhost/engine/OperationCatalog.h"
 #include "refhost/engine/PackedForm.h"
 #include "refhost/engine/PackedFrame.h"
@@ -20,6 +21,26 @@ using Reason = Problem::Reason;
 Problem malformed(const QString &place, const QString &message)
 {
     return {Reason::MalformedContent, {}, place, message};
+}
+
+/// What is wrong with a record of `size` bytes that a step of the type has read from the stream;
+/// empty when nothing is.
+QString recordTrouble(const QString &typeId, int size, const QDataStream &stream)
+{
+    const QString bytes = QString::number(size);
+    if (stream.status() == QDataStream::ReadPastEnd) {
+        return EngineText::tr("%1 cannot read its record of %2 bytes; it ends too early")
+            .arg(typeId, bytes);
+    }
+    if (stream.status() != QDataStream::Ok) {
+        return EngineText::tr("%1 cannot read its record of %2 bytes; it makes no sense")
+            .arg(typeId, bytes);
+    }
+    const qint64 rest = stream.device()->bytesAvailable();
+    if (rest == 0)
+        return {};
+    return EngineText::tr("%1 cannot read its record of %2 bytes; it has %3 bytes too many")
+        .arg(typeId, bytes, QString::number(rest));
 }
 
 /// Reads the variables and the steps.
@@ -43,7 +64,7 @@ public:
             return *problem;
         if (const qint64 rest = bytesLeft()) {
             return malformed(QStringLiteral("steps"),
-                             QStringLiteral("%1 bytes behind the last; expected none").arg(rest));
+                             EngineText::tr("%1 bytes behind the last; expected none").arg(rest));
         }
         return task;
     }
@@ -73,8 +94,8 @@ Result<quint32> ContentReader::readCount(const QString &place, int smallest)
     m_stream >> count;
     const qint64 room = bytesLeft() / smallest;
     if (m_stream.status() != QDataStream::Ok || count > room)
-        return malformed(
-            place, QStringLiteral("%1 of them; there is room for %2 at most").arg(count).arg(room));
+        return malformed(place, EngineText::tr("%1 of them; there is room for %2 at most")
+                                    .arg(QString::number(count), QString::number(room)));
     return count;
 }
 
@@ -102,7 +123,7 @@ Result<TaskVariable> ContentReader::readVariable(const QString &place)
     quint8 type = 0;
     m_stream >> variable.name >> type;
     if (m_stream.status() != QDataStream::Ok)
-        return malformed(place, QStringLiteral("a name beyond the end, or of half letters"));
+        return malformed(place, EngineText::tr("a name beyond the end, or of half letters"));
     variable.type = static_cast<VarType>(type);
     const Result<QVariant> value = readPackedValue(m_stream);
     if (!value) {
@@ -133,7 +154,7 @@ Result<std::unique_ptr<Operation>> ContentReader::readStep(const QString &place)
     QString typeId;
     m_stream >> typeId;
     if (m_stream.status() != QDataStream::Ok)
-        return malformed(place, QStringLiteral("a type beyond the end, or of half letters"));
+        return malformed(place, EngineText::tr("a type beyond the end, or of half letters"));
     const CatalogEntry *const entry = m_catalog.find(typeId);
     if (!entry)
         return unknownType(place + QStringLiteral(".type"), typeId, m_catalog.typeIds());
@@ -152,9 +173,8 @@ Result<QByteArray> ContentReader::readRecord(const QString &place)
     m_stream >> length;
     const qint64 room = bytesLeft();
     if (m_stream.status() != QDataStream::Ok || length > room) {
-        return malformed(
-            place,
-            QStringLiteral("a record of %1 bytes; there is room for %2").arg(length).arg(room));
+        return malformed(place, EngineText::tr("a record of %1 bytes; there is room for %2")
+                                    .arg(QString::number(length), QString::number(room)));
     }
     return m_stream.device()->read(length);
 }
@@ -166,20 +186,10 @@ std::optional<Problem> ContentReader::load(Operation &step, const QByteArray &re
     stream.setByteOrder(QDataStream::BigEndian);
     stream.setVersion(m_recordVersion);
     step.loadOperation(stream);
-    const auto unfit = [&](const QString &why) {
-        return Problem{Reason::UnfitRecord,
-                       {},
-                       place,
-                       QStringLiteral("%1 cannot read its record of %2 bytes; it %3")
-                           .arg(step.typeId(), QString::number(record.size()), why)};
-    };
-    if (stream.status() == QDataStream::ReadPastEnd)
-        return unfit(QStringLiteral("ends too early"));
-    if (stream.status() != QDataStream::Ok)
-        return unfit(QStringLiteral("makes no sense"));
-    if (const qint64 rest = stream.device()->bytesAvailable())
-        return unfit(QStringLiteral("has %1 bytes too many").arg(rest));
-    return std::nullopt;
+    const QString message = recordTrouble(step.typeId(), record.size(), stream);
+    if (message.isEmpty())
+        return std::nullopt;
+    return Problem{Reason::UnfitRecord, {}, place, message};
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "refhost/engine/VariableCheck.h"
 
+#include "refhost/engine/EngineText.h"
 #include "refhost/engine/ExactValue.h"
 #include "refhost/engine/TaskProblem.h"
 #include "refhost/engine/ValueType.h"
@@ -11,20 +12,20 @@ QString expectation(VarType type)
 {
     switch (type) {
     case VarType::Int:
-        return QStringLiteral("a 32-bit number");
+        return EngineText::tr("a 32-bit number");
     case VarType::Double:
-        return QStringLiteral("a floating-point number");
+        return EngineText::tr("a floating-point number");
     case VarType::String:
-        return QStringLiteral("a text");
+        return EngineText::tr("a text");
     case VarType::Bool:
-        return QStringLiteral("true or false");
+        return EngineText::tr("true or false");
     case VarType::List:
-        return QStringLiteral("a list");
+        return EngineText::tr("a list");
     case VarType::Table:
     case VarType::None:
         break;
     }
-    return QStringLiteral("a list of rows, each a list");
+    return EngineText::tr("a list of rows, each a list");
 }
 
 } // namespace
@@ -38,7 +39,7 @@ std::optional<Problem> VariableCheck::check(const TaskVariable &variable)
         return Problem{Problem::Reason::UnfitValue,
                        {},
                        place,
-                       QStringLiteral("a name that stands there already; expected another")};
+                       EngineText::tr("a name that stands there already; expected another")};
     }
     if (varTypeName(variable.type).isEmpty()) {
         return unknownType(place + QStringLiteral(".type"), static_cast<int>(variable.type),
@@ -48,7 +49,7 @@ std::optional<Problem> VariableCheck::check(const TaskVariable &variable)
         return Problem{Problem::Reason::UnfitValue,
                        {},
                        place + QStringLiteral(".value"),
-                       QStringLiteral("%1; expected %2")
+                       EngineText::tr("%1; expected %2")
                            .arg(valueWords(variable.value), expectation(variable.type))};
     }
     m_names.insert(variable.name);

@@ -1,5 +1,6 @@
 #include "refhost/engine/check/CheckRule.h"
 
+#include "refhost/engine/EngineText.h"
 #include "refhost/engine/JsonValue.h"
 #include "refhost/engine/check/NearName.h"
 #include "refhost/engine/check/TaskFacts.h"
@@ -23,8 +24,8 @@ Finding findingAt(const Setting &setting, Mistake mistake, Severity severity, co
 QString nothingThere(const Setting &setting)
 {
     if (setting.role == PropertyRole::Text)
-        return QStringLiteral("the operand counts as empty text");
-    return QStringLiteral(
+        return EngineText::tr("the operand counts as empty text");
+    return EngineText::tr(
         "the operand is no number: the step goes on without one, or does nothing");
 }
 
@@ -45,7 +46,7 @@ QString anyOf(const QStringList &texts)
     QString last = words.isEmpty() ? QString() : words.takeLast();
     if (words.isEmpty())
         return last;
-    return QStringLiteral("%1 or %2").arg(words.join(QLatin1String(", ")), last);
+    return EngineText::tr("%1 or %2").arg(listText(words), last);
 }
 
 QString remedyForName(const QString &name, const QString &sign, const NearName &near)
@@ -53,22 +54,22 @@ QString remedyForName(const QString &name, const QString &sign, const NearName &
     const QString meant = quoted(sign + near.name);
     switch (near.difference) {
     case NearName::Difference::Space:
-        return QStringLiteral("write %1: white space is part of a name").arg(meant);
+        return EngineText::tr("write %1: white space is part of a name").arg(meant);
     case NearName::Difference::Braces:
-        return QStringLiteral("write %1, without braces").arg(meant);
+        return EngineText::tr("write %1, without braces").arg(meant);
     case NearName::Difference::Case:
-        return QStringLiteral("write %1: capital and small letters differ").arg(meant);
+        return EngineText::tr("write %1: capital and small letters differ").arg(meant);
     case NearName::Difference::Letters:
-        return QStringLiteral("declare %1, or write %2").arg(quoted(name), meant);
+        return EngineText::tr("declare %1, or write %2").arg(quoted(name), meant);
     case NearName::Difference::Tail:
-        return QStringLiteral(
+        return EngineText::tr(
                    "write %1 alone, and put what follows it behind it in a step of its own")
             .arg(meant);
     case NearName::Difference::Far:
         break;
     }
-    QString declare = QStringLiteral("declare ") + quoted(name);
     if (sign.isEmpty())
-        return declare;
-    return declare + QStringLiteral("; a text that begins with \"$\" has to come from a variable");
+        return EngineText::tr("declare %1").arg(quoted(name));
+    return EngineText::tr("declare %1; a text that begins with \"$\" has to come from a variable")
+        .arg(quoted(name));
 }

@@ -1,5 +1,6 @@
 #include "refhost/engine/check/ChoiceRules.h"
 
+#include "refhost/engine/EngineText.h"
 #include "refhost/engine/check/TaskFacts.h"
 
 namespace {
@@ -25,10 +26,10 @@ MaybeFinding unknownMode(const Setting &setting, const TaskFacts &facts)
     if (choices.isEmpty() || isChoice(setting))
         return std::nullopt;
     return findingAt(setting, Mistake::UnknownMode, Severity::Warning,
-                     {QStringLiteral("%1 is none of the choices, which are 0 to %2")
+                     {EngineText::tr("%1 is none of the choices, which are 0 to %2")
                           .arg(setting.text(), QString::number(choices.size() - 1)),
-                      QStringLiteral("the step does what it does for another choice, or nothing"),
-                      QStringLiteral("choose ") + anyOf(choices)});
+                      EngineText::tr("the step does what it does for another choice, or nothing"),
+                      EngineText::tr("choose %1").arg(anyOf(choices))});
 }
 
 MaybeFinding hiddenSetting(const Setting &setting, const TaskFacts &facts)
@@ -39,13 +40,13 @@ MaybeFinding hiddenSetting(const Setting &setting, const TaskFacts &facts)
     QStringList showing;
     for (const int value : setting.schema.conditionValues)
         showing.append(choiceName(choice->schema, value));
-    const QString name = setting.schema.conditionName;
+    const QString name = propertyText(choice->schema);
     return findingAt(setting, Mistake::HiddenSetting, Severity::Warning,
-                     {QStringLiteral("it is set, but not in use while %1 is %2")
+                     {EngineText::tr("it is set, but not in use while %1 is %2")
                           .arg(name, quoted(choiceName(choice->schema, choice->value.toInt()))),
-                      QStringLiteral("no editor shows it, and as a rule the step ignores it"),
-                      QStringLiteral("set %1 to %2, or leave %3 out")
-                          .arg(name, anyOf(showing), setting.schema.name)});
+                      EngineText::tr("no editor shows it, and as a rule the step ignores it"),
+                      EngineText::tr("set %1 to %2, or leave %3 out")
+                          .arg(name, anyOf(showing), propertyText(setting.schema))});
 }
 
 } // namespace

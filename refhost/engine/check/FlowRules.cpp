@@ -1,7 +1,7 @@
 #include "refhost/engine/check/FlowRules.h"
 
+#include "refhost/engine/EngineText.h"
 #include "refhost/engine/OperandText.h"
-#include "refhost/engine/VarTypeName.h"
 #include "refhost/engine/check/TaskFacts.h"
 
 #include "VariableScope.h"
@@ -12,8 +12,8 @@ namespace {
 
 using Uses = QVector<const Setting *>;
 
-/// What a step finds that reads a variable before it has a value.
-QString foundWithoutValue(const Setting &reader, const TaskVariable &variable)
+/// What comes of it that a step reads a variable before it has a value.
+QString readWithoutValue(const Setting &reader, const TaskVariable &variable)
 {
     VariableScope scope;
     scope.declare(variable.name, variable.type);
@@ -21,17 +21,17 @@ QString foundWithoutValue(const Setting &reader, const TaskVariable &variable)
                                                               : operandValue(reader.operand, scope);
     const auto number = numberInValue(value);
     if (reader.role == PropertyRole::Number && number)
-        return textOfValue(*number);
+        return EngineText::tr("the step reads %1").arg(textOfValue(*number));
     if (!value.isValid())
-        return QStringLiteral("nothing");
+        return EngineText::tr("the step reads nothing");
     if (value.userType() == QMetaType::QVariantList)
-        return QStringLiteral("an empty ") + varTypeName(variable.type);
-    QString text = textOfValue(value);
+        return EngineText::tr("the step reads an empty %1").arg(typeText(variable.type));
+    const QString text = textOfValue(value);
     if (!text.isEmpty())
-        return text;
-    const bool isNumber = reader.role == PropertyRole::Number;
-    return QStringLiteral("an empty text") +
-           (isNumber ? QStringLiteral(", which is no number") : QString());
+        return EngineText::tr("the step reads %1").arg(text);
+    if (reader.role == PropertyRole::Number)
+        return EngineText::tr("the step reads an empty text, which is no number");
+    return EngineText::tr("the step reads an empty text");
 }
 
 /// The first use that the editor shows and that asks for something the variable can have; null when
@@ -55,9 +55,9 @@ void checkUse(const TaskVariable &variable, const TaskFacts &facts, QList<Findin
     finding.severity = Severity::Note;
     finding.property = variable.name;
     finding.text = variable.name;
-    finding.message = QStringLiteral("no step reads or writes ") + quoted(variable.name);
-    finding.consequence = QStringLiteral("it keeps the value it starts with");
-    finding.remedy = QStringLiteral("use it, or leave it out");
+    finding.message = EngineText::tr("no step reads or writes %1").arg(quoted(variable.name));
+    finding.consequence = EngineText::tr("it keeps the value it starts with");
+    finding.remedy = EngineText::tr("use it, or leave it out");
     findings.append(finding);
 }
 
@@ -67,24 +67,22 @@ void checkFirstRead(const TaskVariable &variable, const TaskFacts &facts, QList<
     if (!reader || variable.value.isValid())
         return;
     const Uses writers = facts.writers(variable.name);
-    const QString consequence =
-        QStringLiteral("the step reads ") + foundWithoutValue(*reader, variable);
     if (writers.isEmpty()) {
         findings.append(findingAt(
             *reader, Mistake::ReadsEmpty, Severity::Warning,
-            {QStringLiteral("%1 has no start value, and no step writes it")
+            {EngineText::tr("%1 has no start value, and no step writes it")
                  .arg(quoted(variable.name)),
-             consequence,
-             QStringLiteral(
+             readWithoutValue(*reader, variable),
+             EngineText::tr(
                  "declare it with a \"value\", if only an empty one, or write it in a step")}));
         // A step may read the variable it writes: one that grows a text begins with an empty one.
     } else if (writers.first()->step > reader->step) {
         findings.append(findingAt(
             *reader, Mistake::ReadBeforeWrite, Severity::Warning,
-            {QStringLiteral("%1 is read here, but not written before steps[%2]")
-                 .arg(quoted(variable.name), QString::number(writers.first()->step)),
-             consequence,
-             QStringLiteral("move that step before this one, or declare %1 with a \"value\"")
+            {EngineText::tr("%1 is read here, but not written before %2")
+                 .arg(quoted(variable.name), stepText(writers.first()->step)),
+             readWithoutValue(*reader, variable),
+             EngineText::tr("move that step before this one, or declare %1 with a \"value\"")
                  .arg(quoted(variable.name))}));
     }
 }
@@ -104,15 +102,15 @@ void checkOverwriting(const TaskVariable &variable, const TaskFacts &facts,
     const Uses readers = facts.readers(variable.name);
     for (int i = 1; i < writers.size(); ++i) {
         const Setting &first = *writers.at(i - 1);
-        const QString next = QString::number(writers.at(i)->step);
         if (isReadWithin(readers, first.step, writers.at(i)->step))
             continue;
+        const QString next = stepText(writers.at(i)->step);
         findings.append(
             findingAt(first, Mistake::OverwrittenUnread, Severity::Note,
-                      {QStringLiteral("no step reads %1 before steps[%2] writes it again")
+                      {EngineText::tr("no step reads %1 before %2 writes it again")
                            .arg(quoted(variable.name), next),
-                       QStringLiteral("this result is lost, unless steps[%1] fails").arg(next),
-                       QStringLiteral("name another variable here, or leave the step out")}));
+                       EngineText::tr("this result is lost, unless %1 fails").arg(next),
+                       EngineText::tr("name another variable here, or leave the step out")}));
     }
 }
 

@@ -1,5 +1,6 @@
 #include "refhost/engine/check/LiteralRules.h"
 
+#include "refhost/engine/EngineText.h"
 #include "refhost/engine/check/NameIndex.h"
 #include "refhost/engine/check/TaskFacts.h"
 
@@ -20,9 +21,9 @@ MaybeFinding emptyNumber(const Setting &setting, const TaskFacts &facts)
     if (!isLiteral(setting, PropertyRole::Number) || !setting.text().isEmpty())
         return std::nullopt;
     return findingAt(setting, Mistake::EmptyNumber, Severity::Warning,
-                     {QStringLiteral("no number is given"),
-                      QStringLiteral("the step takes what it takes without one, or does nothing"),
-                      QStringLiteral("write the number, \"0\" where none is needed")});
+                     {EngineText::tr("no number is given"),
+                      EngineText::tr("the step takes what it takes without one, or does nothing"),
+                      EngineText::tr("write the number, \"0\" where none is needed")});
 }
 
 MaybeFinding notANumber(const Setting &setting, const TaskFacts &facts)
@@ -32,11 +33,11 @@ MaybeFinding notANumber(const Setting &setting, const TaskFacts &facts)
         return std::nullopt;
     const QString remedy =
         facts.variable(text)
-            ? QStringLiteral("write %1 for the variable").arg(quoted(QLatin1Char('$') + text))
-            : QStringLiteral("write digits, with \".\" before decimals and no group separators");
+            ? EngineText::tr("write %1 for the variable").arg(quoted(QLatin1Char('$') + text))
+            : EngineText::tr("write digits, with \".\" before decimals and no group separators");
     return findingAt(setting, Mistake::NotANumber, Severity::Error,
-                     {quoted(text) + QStringLiteral(" is no number"),
-                      QStringLiteral("the step goes on without a number, or does nothing"), remedy,
+                     {EngineText::tr("%1 is no number").arg(quoted(text)),
+                      EngineText::tr("the step goes on without a number, or does nothing"), remedy,
                       facts.variable(text) ? text : QString()});
 }
 
@@ -51,9 +52,9 @@ MaybeFinding numberAsText(const Setting &setting, const TaskFacts &facts)
     if (became == setting.text())
         return std::nullopt;
     return findingAt(setting, Mistake::NumberAsText, Severity::Warning,
-                     {QStringLiteral("%1 travels as a number").arg(quoted(setting.text())),
-                      QStringLiteral("the operand becomes the text ") + quoted(became),
-                      QStringLiteral("keep %1 in a string variable and refer to that")
+                     {EngineText::tr("%1 travels as a number").arg(quoted(setting.text())),
+                      EngineText::tr("the operand becomes the text %1").arg(quoted(became)),
+                      EngineText::tr("keep %1 in a string variable and refer to that")
                           .arg(quoted(setting.text()))});
 }
 
@@ -90,9 +91,9 @@ MaybeFinding typedEscape(const Setting &setting, const TaskFacts &facts)
     const QString typed = match.captured();
     return findingAt(
         setting, Mistake::TypedEscape, Severity::Warning,
-        {typed + QStringLiteral(" is typed into the text"),
-         QStringLiteral("the backslash stays in it: operands have no escape sequences"),
-         QStringLiteral("type the character itself, in a task file \"%1\"; if the backslash is "
+        {EngineText::tr("%1 is typed into the text").arg(typed),
+         EngineText::tr("the backslash stays in it: operands have no escape sequences"),
+         EngineText::tr("type the character itself, in a task file \"%1\"; if the backslash is "
                         "meant, leave it")
              .arg(typed)});
 }
@@ -103,9 +104,9 @@ MaybeFinding loneDollar(const Setting &setting, const TaskFacts &facts)
     if (!isLiteral(setting, PropertyRole::Text) || setting.text() != QLatin1String("$"))
         return std::nullopt;
     return findingAt(setting, Mistake::LoneDollar, Severity::Note,
-                     {QStringLiteral("\"$\" names no variable"),
-                      QStringLiteral("the operand is the text \"$\""),
-                      QStringLiteral("write a name behind it; if the sign is meant, keep it in a "
+                     {EngineText::tr("\"$\" names no variable"),
+                      EngineText::tr("the operand is the text \"$\""),
+                      EngineText::tr("write a name behind it; if the sign is meant, keep it in a "
                                      "variable")});
 }
 
@@ -140,10 +141,10 @@ MaybeFinding dollarInText(const Setting &setting, const TaskFacts &facts)
     if (inner.name.isEmpty())
         return std::nullopt;
     return findingAt(setting, Mistake::DollarInText, Severity::Note,
-                     {quoted(inner.text) + QStringLiteral(" stands within a text"),
-                      QStringLiteral("it stays as it is: an operand is a reference as a whole or "
+                     {EngineText::tr("%1 stands within a text").arg(quoted(inner.text)),
+                      EngineText::tr("it stays as it is: an operand is a reference as a whole or "
                                      "not at all"),
-                      QStringLiteral("refer to the variable in an operand of its own, and put the "
+                      EngineText::tr("refer to the variable in an operand of its own, and put the "
                                      "texts together step by step"),
                       inner.name});
 }
@@ -156,9 +157,9 @@ MaybeFinding missingDollar(const Setting &setting, const TaskFacts &facts)
         return std::nullopt;
     return findingAt(
         setting, Mistake::MissingDollar, Severity::Note,
-        {QStringLiteral("%1 is the name of a variable that nobody reads").arg(quoted(text)),
-         QStringLiteral("the operand is that name, not the value of the variable"),
-         QStringLiteral("write %1").arg(quoted(QLatin1Char('$') + text)), text});
+        {EngineText::tr("%1 is the name of a variable that nobody reads").arg(quoted(text)),
+         EngineText::tr("the operand is that name, not the value of the variable"),
+         EngineText::tr("write %1").arg(quoted(QLatin1Char('$') + text)), text});
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "refhost/engine/check/NameRules.h"
 
-#include "refhost/engine/VarTypeName.h"
+#include "refhost/engine/EngineText.h"
 #include "refhost/engine/check/NameIndex.h"
 #include "refhost/engine/check/TaskFacts.h"
 
@@ -15,12 +15,12 @@ bool isName(const Setting &setting)
 
 QString nothingWritten()
 {
-    return QStringLiteral("nothing is written, as a rule with a warning");
+    return EngineText::tr("nothing is written, as a rule with a warning");
 }
 
 QString nothingRead()
 {
-    return QStringLiteral("the step finds nothing to read, as a rule with a warning");
+    return EngineText::tr("the step finds nothing to read, as a rule with a warning");
 }
 
 MaybeFinding emptyName(const Setting &setting, const TaskFacts &facts)
@@ -30,14 +30,14 @@ MaybeFinding emptyName(const Setting &setting, const TaskFacts &facts)
         return std::nullopt;
     if (setting.role == PropertyRole::Result) {
         return findingAt(setting, Mistake::EmptyResult, Severity::Error,
-                         {QStringLiteral("no result variable is named"),
-                          QStringLiteral("the step does nothing, as a rule with a warning"),
-                          QStringLiteral("name a variable to receive the result")});
+                         {EngineText::tr("no result variable is named"),
+                          EngineText::tr("the step does nothing, as a rule with a warning"),
+                          EngineText::tr("name a variable to receive the result")});
     }
     return findingAt(setting, Mistake::EmptyInput, Severity::Warning,
-                     {QStringLiteral("no variable is named"),
-                      QStringLiteral("the step has nothing to read"),
-                      QStringLiteral("name the variable to read")});
+                     {EngineText::tr("no variable is named"),
+                      EngineText::tr("the step has nothing to read"),
+                      EngineText::tr("name the variable to read")});
 }
 
 /// Whether the name is written as a reference, and no variable happens to be called just so.
@@ -52,13 +52,13 @@ MaybeFinding nameWithDollar(const Setting &setting, const TaskFacts &facts)
     if (!isReference(setting, facts))
         return std::nullopt;
     const QString bare = setting.text().mid(1);
-    const QString write = QStringLiteral("write ") + quoted(bare);
+    const QString remedy = facts.variable(bare) ? EngineText::tr("write %1")
+                                                : EngineText::tr("write %1 and declare it");
     return findingAt(setting, Mistake::NameWithDollar, Severity::Error,
-                     {QStringLiteral("%1 is no name: here a variable is named without \"$\"")
+                     {EngineText::tr("%1 is no name: here a variable is named without \"$\"")
                           .arg(quoted(setting.text())),
                       setting.role == PropertyRole::Result ? nothingWritten() : nothingRead(),
-                      facts.variable(bare) ? write : write + QStringLiteral(" and declare it"),
-                      bare});
+                      remedy.arg(quoted(bare)), bare});
 }
 
 MaybeFinding undeclaredName(const Setting &setting, const TaskFacts &facts)
@@ -70,7 +70,7 @@ MaybeFinding undeclaredName(const Setting &setting, const TaskFacts &facts)
     const NearName near = facts.names().nearest(name);
     return findingAt(setting, isResult ? Mistake::UndeclaredResult : Mistake::UndeclaredVariable,
                      Severity::Error,
-                     {quoted(name) + QStringLiteral(" is no variable"),
+                     {EngineText::tr("%1 is no variable").arg(quoted(name)),
                       isResult ? nothingWritten() : nothingRead(),
                       remedyForName(name, QString(), near), near.name});
 }
@@ -87,17 +87,17 @@ const TaskVariable *unfitVariable(const Setting &setting, const TaskFacts &facts
 QString wantedType(const Setting &setting)
 {
     if (setting.schema.restriction == QLatin1String("scalar"))
-        return QStringLiteral("int or double");
-    return setting.schema.restriction;
+        return choiceText({typeText(VarType::Int), typeText(VarType::Double)});
+    return wordsText(typeTexts(setting.schema.restriction));
 }
 
 Advice typeAdvice(const Setting &setting, const TaskVariable &variable, const QString &consequence)
 {
     const QString wanted = wantedType(setting);
-    return {QStringLiteral("%1 is declared as %2, not as %3")
-                .arg(quoted(variable.name), varTypeName(variable.type), wanted),
+    return {EngineText::tr("%1 is declared as %2, not as %3")
+                .arg(quoted(variable.name), typeText(variable.type), wanted),
             consequence,
-            QStringLiteral("name a variable of type %1, or declare %2 as that")
+            EngineText::tr("name a variable of type %1, or declare %2 as that")
                 .arg(wanted, quoted(variable.name))};
 }
 
@@ -108,7 +108,7 @@ MaybeFinding inputType(const Setting &setting, const TaskFacts &facts)
         return std::nullopt;
     return findingAt(setting, Mistake::InputType, Severity::Error,
                      typeAdvice(setting, *variable,
-                                QStringLiteral("the step cannot read it, as a rule with a "
+                                EngineText::tr("the step cannot read it, as a rule with a "
                                                "warning")));
 }
 
@@ -117,15 +117,15 @@ QString formOfNumber(VarType type)
 {
     switch (type) {
     case VarType::Int:
-        return QStringLiteral("the number is stored as a whole number");
+        return EngineText::tr("the number is stored as a whole number");
     case VarType::Double:
-        return QStringLiteral("the number is stored with its decimals");
+        return EngineText::tr("the number is stored with its decimals");
     case VarType::String:
-        return QStringLiteral("the number is stored as a text");
+        return EngineText::tr("the number is stored as a text");
     case VarType::Bool:
-        return QStringLiteral("the number is stored as true, or as false if it is 0");
+        return EngineText::tr("the number is stored as true, or as false if it is 0");
     case VarType::Table:
-        return QStringLiteral("the number is lost and the table is emptied");
+        return EngineText::tr("the number is lost and the table is emptied");
     case VarType::List:
     case VarType::None:
         break;

@@ -1,6 +1,6 @@
 #include "refhost/engine/check/ReferenceRules.h"
 
-#include "refhost/engine/VarTypeName.h"
+#include "refhost/engine/EngineText.h"
 #include "refhost/engine/check/NameIndex.h"
 #include "refhost/engine/check/TaskFacts.h"
 
@@ -29,7 +29,7 @@ MaybeFinding undeclaredVariable(const Setting &setting, const TaskFacts &facts)
         return std::nullopt;
     const NearName near = facts.names().nearest(operand.name);
     return findingAt(setting, Mistake::UndeclaredVariable, Severity::Error,
-                     {quoted(setting.text()) + QStringLiteral(" names no variable"),
+                     {EngineText::tr("%1 names no variable").arg(quoted(setting.text())),
                       nothingThere(setting), remedyForName(operand.name, QStringLiteral("$"), near),
                       near.name});
 }
@@ -41,11 +41,11 @@ MaybeFinding dottedName(const Setting &setting, const TaskFacts &facts)
         return std::nullopt;
     const QString whole = setting.text().mid(1);
     return findingAt(setting, Mistake::DottedName, Severity::Error,
-                     {QStringLiteral("%1 is the member %2 of %3, not the variable %4")
+                     {EngineText::tr("%1 is the member %2 of %3, not the variable %4")
                           .arg(quoted(setting.text()), quoted(operand.path), quoted(operand.name),
                                quoted(whole)),
                       nothingThere(setting),
-                      QStringLiteral("give %1 a name without \".\"").arg(quoted(whole)), whole});
+                      EngineText::tr("give %1 a name without \".\"").arg(quoted(whole)), whole});
 }
 
 /// The variable of a reference with a path that finds nothing, null otherwise.
@@ -63,12 +63,12 @@ MaybeFinding pathWithoutList(const Setting &setting, const TaskFacts &facts)
     const TaskVariable *const variable = brokenPath(setting, facts);
     if (!variable || holdsElements(variable->type))
         return std::nullopt;
-    const QString type = varTypeName(variable->type);
+    const QString type = typeText(variable->type);
     return findingAt(setting, Mistake::PathWithoutList, Severity::Error,
-                     {QStringLiteral("%1 asks for a member of %2, which is declared as %3")
+                     {EngineText::tr("%1 asks for a member of %2, which is declared as %3")
                           .arg(quoted(setting.text()), quoted(variable->name), type),
                       nothingThere(setting),
-                      QStringLiteral("write %1; only lists and tables have members")
+                      EngineText::tr("write %1; only lists and tables have members")
                           .arg(quoted(QLatin1Char('$') + variable->name))});
 }
 
@@ -85,12 +85,12 @@ MaybeFinding unknownPath(const Setting &setting, const TaskFacts &facts)
     const QString meant = NameIndex(listMembers()).nearest(setting.operand.path).name;
     const QString remedy =
         meant.isEmpty()
-            ? QStringLiteral("write one of %1 behind the \".\"").arg(anyOf(listMembers()))
-            : QStringLiteral("write ") +
-                  quoted(QStringLiteral("$%1.%2").arg(variable->name, meant));
+            ? EngineText::tr("write one of %1 behind the \".\"").arg(anyOf(listMembers()))
+            : EngineText::tr("write %1")
+                  .arg(quoted(QStringLiteral("$%1.%2").arg(variable->name, meant)));
     return findingAt(setting, Mistake::UnknownPath, Severity::Error,
-                     {QStringLiteral("a %1 has no member %2")
-                          .arg(varTypeName(variable->type), quoted(setting.operand.path)),
+                     {EngineText::tr("a %1 has no member %2")
+                          .arg(typeText(variable->type), quoted(setting.operand.path)),
                       nothingThere(setting), remedy});
 }
 
@@ -102,10 +102,10 @@ MaybeFinding noColumns(const Setting &setting, const TaskFacts &facts)
         return std::nullopt;
     const QString count = quoted(QStringLiteral("$%1.Count").arg(variable->name));
     return findingAt(setting, Mistake::UnknownPath, Severity::Warning,
-                     {QStringLiteral("%1 has no columns: its first element is no row")
+                     {EngineText::tr("%1 has no columns: its first element is no row")
                           .arg(quoted(variable->name)),
                       nothingThere(setting),
-                      QStringLiteral("write %1 for how many elements it has, or start with a list "
+                      EngineText::tr("write %1 for how many elements it has, or start with a list "
                                      "of rows")
                           .arg(count)});
 }
@@ -119,9 +119,9 @@ MaybeFinding emptyPath(const Setting &setting, const TaskFacts &facts)
         return std::nullopt;
     const QString bare = quoted(QLatin1Char('$') + operand.name);
     return findingAt(setting, Mistake::EmptyPath, Severity::Warning,
-                     {quoted(setting.text()) + QStringLiteral(" ends in \".\""),
-                      QStringLiteral("the operand is what %1 is, without a \".\"").arg(bare),
-                      QStringLiteral("write %1; if the \".\" is meant, put it behind in a step of "
+                     {EngineText::tr("%1 ends in \".\"").arg(quoted(setting.text())),
+                      EngineText::tr("the operand is what %1 is, without a \".\"").arg(bare),
+                      EngineText::tr("write %1; if the \".\" is meant, put it behind in a step of "
                                      "its own")
                           .arg(bare)});
 }

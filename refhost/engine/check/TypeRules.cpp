@@ -1,6 +1,6 @@
 #include "refhost/engine/check/TypeRules.h"
 
-#include "refhost/engine/VarTypeName.h"
+#include "refhost/engine/EngineText.h"
 #include "refhost/engine/check/TaskFacts.h"
 
 namespace {
@@ -28,21 +28,20 @@ MaybeFinding textOfOtherType(const Setting &setting, const TaskFacts &facts)
     if (setting.role != PropertyRole::Text || type == VarType::None ||
         isAskedFor(setting.schema, type))
         return std::nullopt;
-    QString wanted = setting.schema.restriction;
-    wanted.replace(QLatin1Char(','), QLatin1String(" or "));
-    const QString message = QStringLiteral("%1 is of type %2 where %3 is asked for")
-                                .arg(quoted(setting.text()), varTypeName(type), wanted);
+    const QString wanted = choiceText(typeTexts(setting.schema.restriction));
+    const QString message = EngineText::tr("%1 is of type %2 where %3 is asked for")
+                                .arg(quoted(setting.text()), typeText(type), wanted);
     if (holdsElements(type)) {
         return findingAt(setting, Mistake::ReferenceType, Severity::Warning,
                          {message,
-                          QStringLiteral("as a text it is its elements with \", \" between them"),
-                          QStringLiteral("make a text of it in a step of its own, or write %1 for "
+                          EngineText::tr("as a text it is its elements with \", \" between them"),
+                          EngineText::tr("make a text of it in a step of its own, or write %1 for "
                                          "how many elements it has")
                               .arg(countOf(setting.operand))});
     }
     return findingAt(setting, Mistake::ReferenceType, Severity::Warning,
-                     {message, QStringLiteral("the step takes it as it is, or cannot use it"),
-                      QStringLiteral("refer to a variable of type ") + wanted});
+                     {message, EngineText::tr("the step takes it as it is, or cannot use it"),
+                      EngineText::tr("refer to a variable of type %1").arg(wanted)});
 }
 
 MaybeFinding numberOfOtherType(const Setting &setting, const TaskFacts &facts)
@@ -50,18 +49,19 @@ MaybeFinding numberOfOtherType(const Setting &setting, const TaskFacts &facts)
     const VarType type = facts.typeBehind(setting.operand);
     if (setting.role != PropertyRole::Number || type == VarType::None)
         return std::nullopt;
-    const QString message = QStringLiteral("%1 is of type %2 where a number is asked for")
-                                .arg(quoted(setting.text()), varTypeName(type));
-    if (type == VarType::Bool) {
-        return findingAt(setting, Mistake::ReferenceType, Severity::Warning,
-                         {message, QStringLiteral("true counts as 1, false as 0"),
-                          QStringLiteral("refer to a variable of type int or double")});
-    }
-    if (!holdsElements(type))
+    if (type != VarType::Bool && !holdsElements(type))
         return std::nullopt;
+    const QString message = EngineText::tr("%1 is of type %2 where a number is asked for")
+                                .arg(quoted(setting.text()), typeText(type));
+    if (type == VarType::Bool) {
+        const QString wanted = choiceText({typeText(VarType::Int), typeText(VarType::Double)});
+        return findingAt(setting, Mistake::ReferenceType, Severity::Warning,
+                         {message, EngineText::tr("true counts as 1, false as 0"),
+                          EngineText::tr("refer to a variable of type %1").arg(wanted)});
+    }
     return findingAt(setting, Mistake::ReferenceType, Severity::Error,
                      {message, nothingThere(setting),
-                      QStringLiteral("refer to a number, or write %1 for how many elements it has")
+                      EngineText::tr("refer to a number, or write %1 for how many elements it has")
                           .arg(countOf(setting.operand))});
 }
 
@@ -76,10 +76,10 @@ MaybeFinding textThatIsNoNumber(const Setting &setting, const TaskFacts &facts)
     if (!value.isValid() || numberInValue(value))
         return std::nullopt;
     return findingAt(setting, Mistake::NotANumber, Severity::Warning,
-                     {QStringLiteral("%1 is %2, which is no number")
+                     {EngineText::tr("%1 is %2, which is no number")
                           .arg(quoted(setting.text()), quoted(value.toString())),
                       nothingThere(setting),
-                      QStringLiteral("give %1 a number to start with").arg(quoted(variable.name))});
+                      EngineText::tr("give %1 a number to start with").arg(quoted(variable.name))});
 }
 
 } // namespace
