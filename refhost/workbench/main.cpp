@@ -1,6 +1,7 @@
 #include "refhost/engine/PluginFolder.h"
 #include "refhost/workbench/files/FileActions.h"
 #include "refhost/workbench/look/Appearance.h"
+#include "refhost/workbench/look/Language.h"
 #include "refhost/workbench/window/MainWindow.h"
 #include "refhost/workbench/window/Workbench.h"
 
@@ -14,6 +15,7 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationName(QStringLiteral("opworkbench"));
     QCoreApplication::setApplicationVersion(QStringLiteral(OPWORKBENCH_VERSION));
     applyAppearance(QStringLiteral("light"));
+    installLanguage(systemLanguage());
     Workbench bench(pluginFiles(pluginFolders(QCoreApplication::applicationDirPath())));
     MainWindow window(bench);
     if (argc > 1)

@@ -4,5 +4,6 @@
 
 QIcon symbolIcon(const QString &name)
 {
+    Q_INIT_RESOURCE(symbols); // a static library does not do it by itself
     return QIcon(new SymbolIconEngine(QStringLiteral(":/symbols/%1.svg").arg(name)));
 }

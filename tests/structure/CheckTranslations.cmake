@@ -1,0 +1,52 @@
+# Fails when the translations lack a text that is in the sources, or have one that is there no more.
+#
+#   cmake -D SOURCE_DIR=... -D WORK_DIR=... -D LUPDATE=... -P CheckTranslations.cmake
+
+# All contexts and texts of a file in their order, with signs that lists keep.
+function(read_texts file result)
+    file(READ ${file} content)
+    string(REPLACE "\\" "/" content "${content}")
+    string(REPLACE ";" "," content "${content}")
+    string(REPLACE "[" "(" content "${content}")
+    string(REPLACE "]" ")" content "${content}")
+    string(REGEX MATCHALL "<name>[^<]*|<source>[^<]*|<comment>[^<]*" lines "${content}")
+    set(texts)
+    foreach(line IN LISTS lines)
+        if(line MATCHES "^<name>(.*)")
+            set(context "${CMAKE_MATCH_1}")
+        elseif(line MATCHES "^<source>(.*)")
+            list(APPEND texts "${context}: ${CMAKE_MATCH_1}")
+        elseif(line MATCHES "^<comment>(.*)")
+            list(POP_BACK texts text)
+            list(APPEND texts "${text} (${CMAKE_MATCH_1})")
+        endif()
+    endforeach()
+    set(${result} ${texts} PARENT_SCOPE)
+endfunction()
+
+# Names the texts that are in `all` and not in `known`.
+function(report_missing file what all known)
+    list(REMOVE_ITEM all ${known})
+    foreach(text IN LISTS all)
+        message(SEND_ERROR "${file} ${what} \"${text}\"; run scripts/update-translations")
+    endforeach()
+endfunction()
+
+file(REMOVE_RECURSE ${WORK_DIR})
+file(COPY ${SOURCE_DIR}/translations/ DESTINATION ${WORK_DIR})
+set(FOLDER ${WORK_DIR})
+include(${SOURCE_DIR}/cmake/UpdateTranslations.cmake)
+
+file(GLOB files RELATIVE ${WORK_DIR} ${WORK_DIR}/*.ts)
+if(NOT files)
+    message(SEND_ERROR "no translations; the check looks in the wrong place")
+endif()
+foreach(file IN LISTS files)
+    read_texts(${SOURCE_DIR}/translations/${file} before)
+    read_texts(${WORK_DIR}/${file} after)
+    if(NOT after)
+        message(SEND_ERROR "${file}: no texts in the sources; the check looks in the wrong place")
+    endif()
+    report_missing(${file} "lacks" "${after}" "${before}")
+    report_missing(${file} "has, and the sources have not," "${before}" "${after}")
+endforeach()

@@ -1,0 +1,393 @@
+#include "refhost/workbench/look/Language.h"
+
+#include "refhost/engine/EngineText.h"
+#include "refhost/engine/OperationCatalog.h"
+#include "refhost/engine/PropertySchema.h"
+#include "refhost/engine/TaskReader.h"
+#include "refhost/engine/VarTypeName.h"
+#include "refhost/engine/check/TaskCheck.h"
+#include "refhost/workbench/window/MainWindow.h"
+#include "refhost/workbench/window/Workbench.h"
+#include "tests/support/QuietTest.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAction>
+#include <QDir>
+#include <QDockWidget>
+#include <QLabel>
+#include <QLibraryInfo>
+#include <QLineEdit>
+#include <QMenu>
+#include <QRegularExpression>
+#include <QTest>
+#include <QTranslator>
+#include <QXmlStreamReader>
+
+#include <algorithm>
+
+namespace {
+
+/// One text of a translation file.
+struct Message
+{
+    QString context;
+    QString source;
+    QString state;     ///< "unfinished" and the like, empty when all is well
+    QStringList forms; ///< one, or those for different numbers
+};
+
+/// The one text of a translation, or those for different numbers.
+QStringList readForms(QXmlStreamReader &xml, bool isNumerus)
+{
+    if (!isNumerus)
+        return {xml.readElementText()};
+    QStringList forms;
+    while (xml.readNextStartElement())
+        forms.append(xml.readElementText());
+    return forms;
+}
+
+Message readMessage(QXmlStreamReader &xml, const QString &context)
+{
+    Message message{context, {}, {}, {}};
+    const bool isNumerus = xml.attributes().value("numerus") == QLatin1String("yes");
+    while (xml.readNextStartElement()) {
+        if (xml.name() == QLatin1String("source")) {
+            message.source = xml.readElementText();
+        } else if (xml.name() == QLatin1String("translation")) {
+            message.state = xml.attributes().value("type").toString();
+            message.forms = readForms(xml, isNumerus);
+        } else {
+            xml.skipCurrentElement();
+        }
+    }
+    return message;
+}
+
+QList<Message> readMessages(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QXmlStreamReader xml(&file);
+    QList<Message> messages;
+    QString context;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (xml.name() == QLatin1String("name"))
+            context = xml.readElementText();
+        else if (xml.name() == QLatin1String("message"))
+            messages.append(readMessage(xml, context));
+    }
+    return xml.hasError() ? QList<Message>() : messages;
+}
+
+QString translationFile(const QString &language)
+{
+    return QStringLiteral(PROJECT_FOLDER) + "/translations/opworkbench_" + language + ".ts";
+}
+
+bool hasChinese(const QString &text)
+{
+    return std::any_of(text.begin(), text.end(),
+                       [](QChar letter) { return letter.script() == QChar::Script_Han; });
+}
+
+bool hasLetters(const QString &text)
+{
+    return std::any_of(text.begin(), text.end(), [](QChar letter) { return letter.isLetter(); });
+}
+
+/// The places of a text that are filled, sorted. Of two that mean the same, one stands for both.
+QStringList markersOf(const QString &text)
+{
+    static const QRegularExpression marker(R"(%L?\d+|%n|\{\w+\})");
+    QStringList markers;
+    auto match = marker.globalMatch(text);
+    while (match.hasNext()) {
+        markers.append(match.next().captured());
+        markers.last().replace("{number}", "{index}").replace("{label}", "{name}");
+    }
+    markers.sort();
+    return markers;
+}
+
+bool hasMnemonic(const QString &text)
+{
+    static const QRegularExpression mnemonic(R"((^|[^&])&\w(?!\w*;))");
+    return mnemonic.match(text).hasMatch();
+}
+
+QString blanksAround(const QString &text)
+{
+    static const QRegularExpression blanks(R"(^(\s*).*?(\s*)$)",
+                                           QRegularExpression::DotMatchesEverythingOption);
+    const auto match = blanks.match(text);
+    return match.captured(1) + '|' + match.captured(2);
+}
+
+/// What is wrong with a translation, empty when nothing is.
+QString faultOf(const Message &message)
+{
+    if (!message.state.isEmpty())
+        return message.state;
+    for (const QString &form : message.forms) {
+        if (form.isEmpty())
+            return "empty";
+        if (markersOf(form) != markersOf(message.source))
+            return "other markers";
+        if (blanksAround(form) != blanksAround(message.source))
+            return "other blanks around it";
+        if (hasMnemonic(form) != hasMnemonic(message.source))
+            return "a mnemonic too many or missing";
+    }
+    return message.forms.isEmpty() ? "missing" : QString();
+}
+
+/// What a user can read of the window before anything is done in it.
+QStringList textsOf(const QWidget &window)
+{
+    QStringList texts{window.windowTitle()};
+    for (const auto *action : window.findChildren<QAction *>())
+        texts << action->text() << action->toolTip() << action->statusTip();
+    for (const auto *widget : window.findChildren<QWidget *>())
+        texts << widget->toolTip() << widget->accessibleName() << widget->windowTitle();
+    for (const auto *label : window.findChildren<QLabel *>())
+        texts << label->text();
+    for (const auto *button : window.findChildren<QAbstractButton *>())
+        texts << button->text();
+    for (const auto *line : window.findChildren<QLineEdit *>())
+        texts << line->placeholderText();
+    for (const auto *menu : window.findChildren<QMenu *>())
+        texts << menu->title();
+    for (const auto *view : window.findChildren<QAbstractItemView *>()) {
+        const auto *const model = view->model();
+        for (int column = 0; model && column < model->columnCount(); ++column)
+            texts << model->headerData(column, Qt::Horizontal).toString();
+    }
+    return texts;
+}
+
+int translatorCount()
+{
+    return QCoreApplication::instance()->findChildren<QTranslator *>().size();
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Message)
+
+/// The window and the messages of the engine are there in Chinese and in English.
+class TranslationsTest : public QuietTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+    void everyTextIsTranslated_data();
+    void everyTextIsTranslated();
+    void windowIsWrittenInChinese();
+    void windowSpeaksEnglish();
+    void windowSpeaksChinese();
+    void findingsInEveryLanguage_data();
+    void findingsInEveryLanguage();
+    void problemsInEveryLanguage();
+    void thingsAreCalledAsTheUserKnowsThem();
+    void languageChangesAtRunTime();
+    void unknownLanguageChangesNothing();
+
+private:
+    QStringList findingTexts(const QString &path) const;
+    QString problemOf(const QByteArray &json) const;
+
+    OperationCatalog m_catalog{{QStringLiteral(PLUGIN_FILE)}};
+};
+
+void TranslationsTest::cleanup()
+{
+    qDeleteAll(QCoreApplication::instance()->findChildren<QTranslator *>());
+    QuietTest::cleanup();
+}
+
+void TranslationsTest::everyTextIsTranslated_data()
+{
+    QTest::addColumn<Message>("message");
+
+    for (const QString &language : languageNames()) {
+        const QList<Message> messages = readMessages(translationFile(language));
+        QVERIFY(!messages.isEmpty());
+        for (const Message &message : messages) {
+            const QString row = language + ": " + message.context + ": " + message.source;
+            QTest::newRow(qPrintable(row)) << message;
+        }
+    }
+}
+
+void TranslationsTest::everyTextIsTranslated()
+{
+    QFETCH(Message, message);
+    QCOMPARE(faultOf(message), QString());
+}
+
+void TranslationsTest::windowIsWrittenInChinese()
+{
+    const QList<Message> messages = readMessages(translationFile("en"));
+    for (const Message &message : messages) {
+        QString text = message.source;
+        for (const QString &marker : markersOf(text))
+            text.remove(marker);
+        QVERIFY2(message.context == "Engine" || hasChinese(text) || !hasLetters(text),
+                 qPrintable(message.context + ": " + message.source));
+        for (const QString &form : message.forms)
+            QVERIFY2(!hasChinese(form), qPrintable(form));
+    }
+}
+
+void TranslationsTest::windowSpeaksEnglish()
+{
+    QVERIFY(installLanguage("en"));
+    Workbench bench({});
+    const MainWindow window(bench);
+    const QStringList texts = textsOf(window);
+    QVERIFY(std::any_of(texts.begin(), texts.end(), hasLetters));
+    for (const QString &text : texts)
+        QVERIFY2(!hasChinese(text), qPrintable(text));
+}
+
+void TranslationsTest::windowSpeaksChinese()
+{
+    QVERIFY(installLanguage("zh"));
+    Workbench bench({});
+    const MainWindow window(bench);
+    const auto docks = window.findChildren<QDockWidget *>();
+    QVERIFY(!docks.isEmpty());
+    for (const auto *dock : docks)
+        QVERIFY2(hasChinese(dock->windowTitle()), qPrintable(dock->windowTitle()));
+}
+
+QStringList TranslationsTest::findingTexts(const QString &path) const
+{
+    const auto task = TaskReader(m_catalog).readFile(path);
+    QStringList texts;
+    for (const Finding &finding : checkTask(task.value(), m_catalog))
+        texts << finding.message << finding.consequence << finding.remedy;
+    return texts;
+}
+
+void TranslationsTest::findingsInEveryLanguage_data()
+{
+    QTest::addColumn<QString>("path");
+
+    const QDir folder(QStringLiteral(EXAMPLE_FOLDER) + "/mistakes");
+    for (const QString &name : folder.entryList({"*.json"})) {
+        if (!name.endsWith("-mended.json"))
+            QTest::newRow(qPrintable(name)) << folder.filePath(name);
+    }
+}
+
+void TranslationsTest::findingsInEveryLanguage()
+{
+    static const QRegularExpression quotation(R"("[^"]*")");
+    QFETCH(QString, path);
+    const QStringList plain = findingTexts(path);
+    QVERIFY(!plain.isEmpty());
+    for (QString text : plain)
+        QVERIFY2(!hasChinese(text.remove(quotation)), qPrintable(text));
+    installLanguage("zh");
+    const QStringList chinese = findingTexts(path);
+    QCOMPARE(chinese.size(), plain.size());
+    for (QString text : chinese)
+        QVERIFY2(hasChinese(text.remove(quotation)), qPrintable(text));
+}
+
+QString TranslationsTest::problemOf(const QByteArray &json) const
+{
+    const QString path = QDir::temp().filePath("opworkbench-translations-test.json");
+    QFile file(path);
+    file.open(QIODevice::WriteOnly);
+    file.write(json);
+    file.close();
+    Problem problem = TaskReader(m_catalog).readFile(path).problem();
+    file.remove();
+    problem.file = "a.json";
+    return problem.toString();
+}
+
+void TranslationsTest::problemsInEveryLanguage()
+{
+    const QByteArray wrongValue(R"({"variables": {"a": {"type": "int", "value": "%1"}}})");
+    const QByteArray wrongType(R"({"variables": {"a": {"type": "text"}}})");
+    QCOMPARE(problemOf(wrongValue),
+             QString(R"(a.json: variables.a.value: "%1"; expected a whole number from )"
+                     "-2147483648 to 2147483647"));
+    QCOMPARE(problemOf(wrongType),
+             QString(R"(a.json: variables.a.type: "text"; expected int, double, string, bool, )"
+                     "list, table"));
+    installLanguage("zh");
+    QCOMPARE(problemOf(wrongValue), QString(R"(a.json：variables.a.value：此处是 "%1"；应为：)"
+                                            "-2147483648 到 2147483647 之间的整数"));
+    QCOMPARE(problemOf(wrongType),
+             QString(R"(a.json：variables.a.type：此处是 "text"；应为：int、double、string、bool、)"
+                     "list、table"));
+}
+
+void TranslationsTest::thingsAreCalledAsTheUserKnowsThem()
+{
+    PropertySchema property;
+    property.name = "mode";
+    PropertySchema labelled = property;
+    labelled.label = "{name} %1";
+    for (int i = 0; i < varTypeNames().size(); ++i) {
+        const auto type = varTypeFromName(varTypeNames().at(i));
+        QCOMPARE(typeText(type), varTypeNames().at(i));
+    }
+    QCOMPARE(stepText(2), QString("steps[2]"));
+    QCOMPARE(propertyText(labelled), QString("mode"));
+    QCOMPARE(listText({"a", "b", "c"}), QString("a, b, c"));
+    QCOMPARE(choiceText(typeTexts("int,scalar,odd")), QString("int or scalar or odd"));
+    QCOMPARE(wordsText({"a"}), QString("a"));
+    QCOMPARE(listText({}), QString());
+
+    installLanguage("zh");
+    QCOMPARE(typeText(VarType::String), QString("字符串"));
+    QCOMPARE(typeText(VarType::None), QString());
+    QCOMPARE(stepText(2), QString("第 3 步"));
+    QCOMPARE(propertyText(labelled), QString("“{name} %1”"));
+    QCOMPARE(propertyText(property), QString("“mode”"));
+    QCOMPARE(listText({"a", "b", "c"}), QString("a、b、c"));
+    QCOMPARE(choiceText(typeTexts("int,scalar,odd")), QString("整数或数值或odd"));
+
+    installLanguage("en");
+    QCOMPARE(stepText(2), QString("step 3"));
+    QCOMPARE(typeText(VarType::String), QString("string"));
+}
+
+void TranslationsTest::languageChangesAtRunTime()
+{
+    QVERIFY(languageNames().contains(systemLanguage()));
+    // Qt's own texts come along where they are installed.
+    const QString folder = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+    const QString cancel = QFile::exists(folder + "/qtbase_zh_CN.qm") ? "取消" : "Cancel";
+    for (int i = 0; i < 3; ++i) {
+        installLanguage("zh");
+        QCOMPARE(EngineText::tr("no value"), QString("没有值"));
+        QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), cancel);
+        installLanguage("en");
+        QCOMPARE(EngineText::tr("no value"), QString("no value"));
+        QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QString("Cancel"));
+        QCOMPARE(stepText(2), QString("step 3"));
+    }
+    QCOMPARE(translatorCount(), 2);
+}
+
+void TranslationsTest::unknownLanguageChangesNothing()
+{
+    installLanguage("zh");
+    QVERIFY(!installLanguage("tlh"));
+    QCOMPARE(EngineText::tr("no value"), QString("没有值"));
+}
+
+QTEST_MAIN(TranslationsTest)
+#include "TranslationsTest.moc"
