@@ -725,5 +725,10 @@
         <source>a name that stands there already; expected another</source>
         <translation>名称已被使用；请换一个</translation>
     </message>
+    <message>
+        <source>%1 or %2</source>
+        <comment>texts in quotes</comment>
+        <translation>%1 或 %2</translation>
+    </message>
 </context>
 </TS>

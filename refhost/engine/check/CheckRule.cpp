@@ -46,7 +46,7 @@ QString anyOf(const QStringList &texts)
     QString last = words.isEmpty() ? QString() : words.takeLast();
     if (words.isEmpty())
         return last;
-    return EngineText::tr("%1 or %2").arg(listText(words), last);
+    return EngineText::tr("%1 or %2", "texts in quotes").arg(listText(words), last);
 }
 
 QString remedyForName(const QString &name, const QString &sign, const NearName &near)
