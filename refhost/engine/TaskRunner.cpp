@@ -8,8 +8,6 @@
 
 #include <QElapsedTimer>
 
-namespace {
-
 StepReport runStep(Operation &step, VariableScope &scope)
 {
     MessageCapture capture;
@@ -26,8 +24,6 @@ StepReport runStep(Operation &step, VariableScope &scope)
     report.warnings = capture.takeLines();
     return report;
 }
-
-} // namespace
 
 void runTask(const Task &task, VariableScope &scope,
              const std::function<void(const StepReport &)> &report,

@@ -18,6 +18,10 @@ struct StepReport
     qint64 nanoseconds = 0;          ///< what its `doOperation` took
 };
 
+/// Runs one step on `scope`; afterwards `writtenNames` of the scope are those of this step, and the
+/// step keeps no pointer to the scope. The report's index is 0.
+StepReport runStep(Operation &step, VariableScope &scope);
+
 /// Runs the steps of `task` in order on `scope`, and calls `report` after each, and `begin`, where
 /// there is one, before it, while the scope is as the step will find it. The steps keep no pointer
 /// to the scope afterwards.

@@ -2,8 +2,6 @@
 
 #include "refhost/engine/JsonValue.h"
 #include "refhost/engine/OperandText.h"
-#include "refhost/engine/OperationSchema.h"
-#include "refhost/engine/PropertyRole.h"
 #include "refhost/engine/TaskRunner.h"
 #include "refhost/runner/Console.h"
 #include "refhost/runner/OneLine.h"
@@ -45,72 +43,49 @@ QString briefText(const QVariant &value)
 }
 
 /// What a text operand comes to; nothing to say of a literal that stays as it is.
-QString foundText(const QString &written, const VariableScope &scope)
+QString foundText(const OperandRecord &operand)
 {
-    const QVariant value = operandValue(readOperand(written), scope);
-    if (!value.isValid())
+    if (!operand.found.isValid())
         return QStringLiteral("\"\", since there is no such value");
-    const QString text = textOfValue(value);
-    return text == written ? QString() : briefText(text);
+    const QString text = textOfValue(operand.found);
+    return text == operand.written ? QString() : briefText(text);
 }
 
-QString foundNumber(const QString &written, const VariableScope &scope)
+QString foundNumber(const OperandRecord &operand)
 {
-    const auto number = numberInValue(operandValue(readOperand(written), scope));
+    const auto number = numberInValue(operand.found);
     if (!number)
         return QStringLiteral("no number");
     const QString text = valueText(*number);
-    return text == written ? QString() : text;
+    return text == operand.written ? QString() : text;
 }
 
-QString foundVariable(const QString &name, const VariableScope &scope)
+/// What stands behind the text of an operand; empty when there is nothing to tell.
+QString found(const OperandRecord &operand, const VariableScope &scope)
 {
-    if (scope.typeOf(name) == VarType::None)
+    if (operand.role == PropertyRole::Text)
+        return foundText(operand);
+    if (operand.role == PropertyRole::Number)
+        return foundNumber(operand);
+    if (scope.typeOf(operand.written) == VarType::None)
         return QStringLiteral("no variable");
-    return briefText(scope.get(name));
+    return briefText(operand.found);
 }
 
-/// What stands behind the text of a property; empty when there is nothing to tell.
-QString found(const QString &written, PropertyRole role, const VariableScope &scope)
+QString operandLine(const OperandRecord &operand, const VariableScope &scope)
 {
-    switch (role) {
-    case PropertyRole::Text:
-        return foundText(written, scope);
-    case PropertyRole::Number:
-        return foundNumber(written, scope);
-    case PropertyRole::Input:
-        return foundVariable(written, scope);
-    case PropertyRole::Result:
-    case PropertyRole::Other:
-        break;
-    }
-    return {};
-}
-
-/// The operands that the editor shows, as they are written and as the step finds them.
-QStringList operandLines(const Operation &step, const VariableScope &scope)
-{
-    QStringList lines;
-    const OperationSchema schema(step);
-    for (const PropertySchema &property : schema.properties()) {
-        const PropertyRole role = roleOf(property);
-        if (role == PropertyRole::Result || role == PropertyRole::Other || !isShown(property, step))
-            continue;
-        const QString written = step.property(property.name.toLatin1().constData()).toString();
-        QString line = property.name + QStringLiteral(": ") + briefText(written);
-        const QString value = found(written, role, scope);
-        if (!value.isEmpty())
-            line += QStringLiteral(" is ") + value;
-        lines.append(line);
-    }
-    return lines;
+    const QString line = operand.property + QStringLiteral(": ") + briefText(operand.written);
+    const QString value = found(operand, scope);
+    return value.isEmpty() ? line : line + QStringLiteral(" is ") + value;
 }
 
 } // namespace
 
 void StepTrace::begin(const Operation &step, const VariableScope &scope)
 {
-    m_operands = operandLines(step, scope);
+    m_operands.clear();
+    for (const OperandRecord &operand : m_reader.read(step, scope))
+        m_operands.append(operandLine(operand, scope));
 }
 
 void StepTrace::show(const StepReport &report, const VariableScope &scope,

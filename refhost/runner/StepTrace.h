@@ -1,5 +1,7 @@
 #pragma once
 
+#include "refhost/engine/OperandTrace.h"
+
 #include <QStringList>
 
 class Console;
@@ -18,5 +20,6 @@ public:
     void show(const StepReport &report, const VariableScope &scope, const Console &console) const;
 
 private:
+    OperandTrace m_reader;
     QStringList m_operands; ///< a line for each that the editor shows
 };

@@ -1,20 +1,12 @@
 #pragma once
 
+#include "refhost/engine/OperandTrace.h"
+
 #include <QDateTime>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
 #include <QVector>
-
-/// An operand of a step that has run: as it was written and what the step found.
-struct OperandRecord
-{
-    QString property;
-    QString label;
-    QString written;
-    QVariant found; ///< invalid when there was no such value
-    bool isReference = false;
-};
 
 /// A variable that a step has written, with the value it got.
 struct WriteRecord
