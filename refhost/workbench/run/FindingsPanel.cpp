@@ -1,10 +1,95 @@
 #include "refhost/workbench/run/FindingsPanel.h"
 
+#include "refhost/workbench/run/FindingsModel.h"
 #include "refhost/workbench/window/Workbench.h"
+
+#include <QHeaderView>
+#include <QLabel>
+#include <QStackedLayout>
+#include <QTreeView>
+#include <QVBoxLayout>
 
 FindingsPanel::FindingsPanel(Workbench &bench, QWidget *parent)
     : QWidget(parent)
     , m_bench(bench)
+    , m_model(new FindingsModel(bench, this))
+    , m_pages(new QStackedLayout(this))
 {
-    Q_UNUSED(m_bench)
+    m_pages->setContentsMargins(0, 0, 0, 0);
+    m_pages->addWidget(createNothing());
+    m_pages->addWidget(createFindings());
+    connect(m_model, &QAbstractItemModel::modelReset, this, &FindingsPanel::update);
+    update();
+}
+
+QWidget *FindingsPanel::createNothing()
+{
+    auto *const nothing = new QLabel(tr("没有发现问题"), this);
+    nothing->setObjectName(QStringLiteral("findings.nothing"));
+    nothing->setAlignment(Qt::AlignCenter);
+    nothing->setEnabled(false);
+    return nothing;
+}
+
+QWidget *FindingsPanel::createFindings()
+{
+    auto *const page = new QWidget(this);
+    auto *const layout = new QVBoxLayout(page);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    m_view = new QTreeView(page);
+    m_view->setObjectName(QStringLiteral("findings.table"));
+    m_view->setAccessibleName(tr("检查"));
+    m_view->setModel(m_model);
+    m_view->setFrameShape(QFrame::NoFrame);
+    m_view->setRootIsDecorated(false);
+    m_view->setUniformRowHeights(true);
+    m_view->setAllColumnsShowFocus(true);
+    m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    const QFontMetrics metrics = m_view->fontMetrics();
+    m_view->header()->resizeSection(FindingsModel::NumberColumn,
+                                    metrics.horizontalAdvance(tr("步骤")) * 2);
+    m_view->header()->resizeSection(FindingsModel::PlaceColumn, metrics.averageCharWidth() * 28);
+    connect(m_view, &QTreeView::clicked, this, &FindingsPanel::goToFinding);
+    connect(m_view, &QTreeView::activated, this, &FindingsPanel::goToFinding);
+    connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            &FindingsPanel::explain);
+    layout->addWidget(m_view);
+    m_explanation = new QLabel(page);
+    m_explanation->setObjectName(QStringLiteral("findings.explanation"));
+    m_explanation->setTextFormat(Qt::PlainText);
+    m_explanation->setWordWrap(true);
+    m_explanation->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_explanation->setMargin(style()->pixelMetric(QStyle::PM_LayoutVerticalSpacing));
+    m_explanation->hide();
+    layout->addWidget(m_explanation);
+    return page;
+}
+
+void FindingsPanel::update()
+{
+    m_pages->setCurrentIndex(m_model->rowCount() == 0 ? 0 : 1);
+    explain({});
+}
+
+void FindingsPanel::explain(const QModelIndex &index)
+{
+    m_explanation->setVisible(index.isValid());
+    if (!index.isValid())
+        return;
+    const Finding &finding = m_model->finding(index.row());
+    m_explanation->setText(finding.consequence + QLatin1Char('\n') + finding.remedy);
+}
+
+void FindingsPanel::goToFinding(const QModelIndex &index) const
+{
+    const Finding &finding = m_model->finding(index.row());
+    const int step = m_model->stepOf(index.row());
+    if (step != 0) {
+        m_bench.place.goTo({step, finding.property, 0});
+        return;
+    }
+    const VariableState *const variable = m_bench.document.state().variableNamed(finding.property);
+    if (variable)
+        m_bench.place.goTo({0, {}, variable->id});
 }

@@ -19,6 +19,23 @@ public:
     QList<QAction *> actions() const { return m_actions; }
 
 private:
+    QAction *add(const char *name, const QString &text, const QKeySequence &shortcut);
+    void addSeparator();
+    void createRunning();
+    void createBreakpoints();
+    void update();
+    void toggleBreakpoint();
+    void clearBreakpoints();
+    bool hasBreakpoints() const;
+
     Workbench &m_bench;
     QList<QAction *> m_actions;
+    QAction *m_run = nullptr;
+    QAction *m_stepOver = nullptr;
+    QAction *m_runTo = nullptr;
+    QAction *m_pause = nullptr;
+    QAction *m_stop = nullptr;
+    QAction *m_reset = nullptr;
+    QAction *m_toggle = nullptr;
+    QAction *m_clear = nullptr;
 };

@@ -24,6 +24,8 @@ qint64 sizeOf(const StepRecord &record)
     qint64 size = 0;
     for (const WriteRecord &write : record.writes)
         size += sizeOf(write.value);
+    for (const QString &line : record.warnings)
+        size += line.size() * qint64(sizeof(QChar));
     return size;
 }
 

@@ -10,6 +10,7 @@
 #include <QElapsedTimer>
 #include <QScopedValueRollback>
 
+#include <exception>
 #include <memory>
 
 namespace {
@@ -185,6 +186,7 @@ void RunSession::runNext()
         StepRecord record = perform(*step.operation);
         record.step = step.id;
         record.row = row;
+        record.operation = step.operation;
         Q_EMIT stepFinished(m_records.add(std::move(record)));
     }
     obey();
@@ -198,10 +200,17 @@ StepRecord RunSession::perform(const Operation &original)
     record.summary = operation->toString();
     record.operands = m_operands.read(*operation, variables);
     record.time = QDateTime::currentDateTime();
-    const StepReport report = runStep(*operation, variables);
-    record.nanoseconds = report.nanoseconds;
-    record.warnings = report.warnings;
-    for (const QString &name : report.written)
+    try {
+        const StepReport report = runStep(*operation, variables);
+        record.nanoseconds = report.nanoseconds;
+        record.warnings = report.warnings;
+    } catch (const std::exception &exception) {
+        // Forbidden to a step. But it shall not take the window, with all that is not saved, along.
+        const QString reason = QString::fromLocal8Bit(exception.what());
+        record.warnings.append(tr("步骤抛出了异常：%1").arg(reason));
+    }
+    const QStringList written = variables.writtenNames();
+    for (const QString &name : written)
         record.writes.append({name, variables.get(name)});
     return record;
 }

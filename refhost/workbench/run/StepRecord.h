@@ -8,6 +8,10 @@
 #include <QVariant>
 #include <QVector>
 
+#include <memory>
+
+class Operation;
+
 /// A variable that a step has written, with the value it got.
 struct WriteRecord
 {
@@ -22,9 +26,12 @@ struct StepRecord
     int row = 0;   ///< where it stood when it ran, counted from 0
     int round = 0; ///< counts the steps of a run, from 1
     QString summary;
+    std::shared_ptr<const Operation> operation; ///< the step as it was then
     QVector<OperandRecord> operands;
     QVector<WriteRecord> writes;
     QStringList warnings;
     qint64 nanoseconds = 0; ///< what the step itself took
     QDateTime time;         ///< when it began
 };
+
+Q_DECLARE_METATYPE(StepRecord)

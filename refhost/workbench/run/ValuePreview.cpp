@@ -1,0 +1,114 @@
+#include "refhost/workbench/run/ValuePreview.h"
+
+#include "refhost/engine/JsonValue.h"
+
+#include <QLocale>
+#include <QVariantList>
+
+namespace {
+
+/// What a reader would not see, or take for something else.
+bool isUnseen(QChar unit)
+{
+    switch (unit.category()) {
+    case QChar::Other_Control:
+    case QChar::Other_Format:
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph:
+        return true;
+    case QChar::Separator_Space:
+        return unit != QLatin1Char(' ');
+    default:
+        return false;
+    }
+}
+
+/// A control character as its picture, "␊", anything else by its number.
+QString shown(QChar unit)
+{
+    constexpr ushort pictures = 0x2400;
+    constexpr ushort deletePicture = 0x2421;
+    if (unit.unicode() < 0x20)
+        return QString(QChar(static_cast<ushort>(pictures + unit.unicode())));
+    if (unit.unicode() == 0x7f)
+        return QString(QChar(deletePicture));
+    return QStringLiteral("⟨%1⟩").arg(unit.unicode(), 4, 16, QLatin1Char('0'));
+}
+
+bool isPair(const QString &text, int i)
+{
+    return text.at(i).isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate();
+}
+
+/// The beginning of a text; a surrogate pair is not cut in two.
+QString beginning(const QString &text, int most)
+{
+    if (text.size() <= most)
+        return text;
+    return text.left(isPair(text, most - 1) ? most - 1 : most);
+}
+
+QString quoted(const QString &text)
+{
+    return QLatin1Char('"') + ValuePreview::visible(text) + QLatin1Char('"');
+}
+
+/// Appends the value, and no more when `line` is longer than `most`.
+void append(QString &line, const QVariant &value, int most)
+{
+    if (value.userType() == QMetaType::QString) {
+        line += quoted(beginning(value.toString(), qMax(1, most)));
+        return;
+    }
+    if (value.userType() != QMetaType::QVariantList) {
+        line += jsonText(variantToJson(value));
+        return;
+    }
+    line += QLatin1Char('[');
+    const QVariantList elements = value.toList();
+    for (int i = 0; i < elements.size() && line.size() <= most; ++i) {
+        if (i > 0)
+            line += QStringLiteral(", ");
+        append(line, elements.at(i), most);
+    }
+    line += QLatin1Char(']');
+}
+
+} // namespace
+
+QString ValuePreview::of(const QVariant &value, int most)
+{
+    if (!value.isValid())
+        return tr("（没有值）");
+    const QLocale locale;
+    if (value.userType() == QMetaType::QString) {
+        const QString text = value.toString();
+        if (text.size() <= most)
+            return quoted(text);
+        return tr("%1…（共 %2 个单元）")
+            .arg(quoted(beginning(text, most)), locale.toString(text.size()));
+    }
+    QString line;
+    append(line, value, most);
+    if (line.size() <= most)
+        return line;
+    return tr("%1…（共 %2 项）").arg(beginning(line, most), locale.toString(value.toList().size()));
+}
+
+QString ValuePreview::visible(const QString &text)
+{
+    QString line;
+    line.reserve(text.size());
+    for (int i = 0; i < text.size(); ++i) {
+        const QChar unit = text.at(i);
+        if (isPair(text, i)) {
+            line += unit;
+            line += text.at(++i);
+        } else if (unit.isSurrogate() || isUnseen(unit)) {
+            line += shown(unit);
+        } else {
+            line += unit;
+        }
+    }
+    return line;
+}
