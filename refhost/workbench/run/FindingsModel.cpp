@@ -88,6 +88,10 @@ QVariant FindingsModel::data(const QModelIndex &index, int role) const
 
 QVariant FindingsModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
+    if (role == Qt::TextAlignmentRole && (section == NumberColumn))
+        return int(Qt::AlignRight | Qt::AlignVCenter);
+    if (role == Qt::TextAlignmentRole)
+        return int(Qt::AlignLeft | Qt::AlignVCenter);
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return QAbstractTableModel::headerData(section, orientation, role);
     switch (section) {
@@ -103,12 +107,8 @@ QVariant FindingsModel::headerData(int section, Qt::Orientation orientation, int
 void FindingsModel::update()
 {
     QVector<Row> rows;
-    for (const Finding &finding : m_bench.check.findings()) {
-        const int id = m_bench.check.stepOf(finding);
-        const StepState *const step = m_bench.document.state().step(id);
-        rows.append(
-            {finding, id, step ? labelOf(*step->operation, finding.property) : finding.property});
-    }
+    for (const Finding &finding : m_bench.check.findings())
+        rows.append({finding, m_bench.check.stepOf(finding)});
     const auto same = [](const Row &left, const Row &right) {
         return left.step == right.step && sameFinding(left.finding, right.finding);
     };
@@ -126,8 +126,15 @@ QString FindingsModel::cellText(const Row &row, int column) const
     case NumberColumn:
         return row.finding.step >= 0 ? QString::number(row.finding.step + 1) : QString();
     case PlaceColumn:
-        return row.place;
+        return placeText(row);
     default:
         return row.finding.message;
     }
+}
+
+/// The label of the property, or the name of the variable.
+QString FindingsModel::placeText(const Row &row) const
+{
+    const StepState *const step = m_bench.document.state().step(row.step);
+    return step ? labelOf(*step->operation, row.finding.property) : row.finding.property;
 }

@@ -31,11 +31,11 @@ private:
     {
         Finding finding;
         int step = 0;
-        QString place; ///< the label of the property or the name of the variable
     };
 
     void update();
     QString cellText(const Row &row, int column) const;
+    QString placeText(const Row &row) const;
 
     Workbench &m_bench;
     QVector<Row> m_rows;

@@ -20,10 +20,11 @@ struct LogLine
 
     Kind kind = Kind::Event;
     QString text;
-    QString writes; ///< what the step wrote, in brief
-    int step = 0;   ///< its identifier
-    int number = 0; ///< its place in the task when it ran, counted from 1
-    int round = 0;  ///< of the run
+    QString writes;  ///< what the step wrote, in brief
+    int step = 0;    ///< its identifier
+    int number = 0;  ///< its place in the task when it ran, counted from 1
+    int round = 0;   ///< of the run
+    int warning = 0; ///< its place among the warnings of the step, counted from 0
     qint64 nanoseconds = -1;
     std::shared_ptr<const Operation> operation; ///< the step as it was when it ran
 };

@@ -69,9 +69,9 @@ void LogPanel::createView()
     const QFontMetrics metrics = m_view->fontMetrics();
     QHeaderView *const header = m_view->header();
     header->setStretchLastSection(false);
-    header->setSectionResizeMode(LogModel::TextColumn, QHeaderView::Stretch);
+    for (const int column : {LogModel::TextColumn, LogModel::WritesColumn})
+        header->setSectionResizeMode(column, QHeaderView::Stretch);
     header->resizeSection(LogModel::NumberColumn, metrics.horizontalAdvance(tr("步骤")) * 2);
-    header->resizeSection(LogModel::WritesColumn, metrics.averageCharWidth() * 36);
     header->resizeSection(LogModel::TimeColumn,
                           metrics.horizontalAdvance(QStringLiteral("000.0 µs")) * 3 / 2);
     connect(m_view, &QTreeView::clicked, this, &LogPanel::goToLine);
@@ -194,9 +194,11 @@ QString LogPanel::propertyOf(const LogLine &line) const
     for (const Finding &finding : findings)
         suspects.append(finding.property);
     const StepRecord *const record = m_bench.run.lastRecord(line.step);
-    const bool isOfThisRun = record && record->round == line.round;
-    return warningPlace(line.text, *line.operation,
-                        isOfThisRun ? record->operands : QVector<OperandRecord>(), suspects);
+    // The record has the whole line, but may be forgotten.
+    if (record && record->round == line.round && line.warning < record->warnings.size())
+        return warningPlace(record->warnings.at(line.warning), *line.operation, record->operands,
+                            suspects);
+    return warningPlace(line.text, *line.operation, {}, suspects);
 }
 
 QString LogPanel::plainText(int row) const

@@ -28,6 +28,7 @@ enum Column { NameColumn, WrittenColumn, FoundColumn };
 constexpr int valueRole = Qt::UserRole;        ///< the whole value
 constexpr int placeRole = Qt::UserRole + 1;    ///< the property it belongs to
 constexpr int variableRole = Qt::UserRole + 2; ///< the variable it belongs to
+constexpr int warningRole = Qt::UserRole + 3;  ///< whether the value is a warning
 
 /// The value as the step took it: for its number or for its text.
 QVariant takenValue(const OperandRecord &operand)
@@ -140,7 +141,7 @@ void OperandsPanel::fill(const StepRecord &record)
     if (!record.warnings.isEmpty()) {
         QTreeWidgetItem *const section = addSection(tr("警告"));
         for (const QString &line : record.warnings)
-            addWarning(section, line, record);
+            addWarning(section, line);
     }
     m_view->expandAll();
 }
@@ -190,8 +191,7 @@ void OperandsPanel::addWrite(QTreeWidgetItem *section, const WriteRecord &write)
     item->setData(NameColumn, variableRole, write.variable);
 }
 
-void OperandsPanel::addWarning(QTreeWidgetItem *section, const QString &line,
-                               const StepRecord &record)
+void OperandsPanel::addWarning(QTreeWidgetItem *section, const QString &line)
 {
     constexpr int mostUnits = 500;
     const QString shown = ValuePreview::visible(line.left(mostUnits));
@@ -200,16 +200,24 @@ void OperandsPanel::addWarning(QTreeWidgetItem *section, const QString &line,
     item->setToolTip(NameColumn, shown);
     item->setForeground(NameColumn, Shades::of(palette()).warning);
     item->setData(NameColumn, valueRole, line);
-    item->setData(NameColumn, placeRole, warningPlace(line, *record.operation, record.operands));
+    item->setData(NameColumn, warningRole, true);
 }
 
 void OperandsPanel::goToItem(const QTreeWidgetItem *item) const
 {
+    const int step = m_bench.place.step();
+    const StepRecord *const record = m_bench.run.lastRecord(step);
     const QString name = item->data(NameColumn, variableRole).toString();
+    const QVariant property = item->data(NameColumn, placeRole);
     if (const VariableState *const variable = m_bench.document.state().variableNamed(name))
         m_bench.place.goTo({0, {}, variable->id});
-    else if (item->data(NameColumn, placeRole).isValid())
-        m_bench.place.goTo({m_bench.place.step(), item->data(NameColumn, placeRole).toString(), 0});
+    else if (property.isValid())
+        m_bench.place.goTo({step, property.toString(), 0});
+    else if (record && item->data(NameColumn, warningRole).toBool())
+        m_bench.place.goTo({step,
+                            warningPlace(item->data(NameColumn, valueRole).toString(),
+                                         *record->operation, record->operands),
+                            0});
 }
 
 void OperandsPanel::copyValue() const

@@ -27,7 +27,7 @@ private:
     QTreeWidgetItem *addSection(const QString &title);
     void addOperand(QTreeWidgetItem *section, const OperandRecord &operand);
     void addWrite(QTreeWidgetItem *section, const WriteRecord &write);
-    void addWarning(QTreeWidgetItem *section, const QString &line, const StepRecord &record);
+    void addWarning(QTreeWidgetItem *section, const QString &line);
     void goToItem(const QTreeWidgetItem *item) const;
     void copyValue() const;
 

@@ -91,10 +91,11 @@ void RunChronicle::writeStep(const StepRecord &record)
     line.writes = writesText(record);
     line.nanoseconds = record.nanoseconds;
     m_lines.append(line);
-    for (const QString &warning : record.warnings) {
+    for (int i = 0; i < record.warnings.size(); ++i) {
         LogLine below = lineOf(record);
         below.kind = LogLine::Kind::Warning;
-        below.text = shortened(warning);
+        below.text = shortened(record.warnings.at(i));
+        below.warning = i;
         m_lines.append(below);
     }
     Q_EMIT written(false);

@@ -23,16 +23,19 @@ bool isUnseen(QChar unit)
     }
 }
 
-/// A control character as its picture, "␊", anything else by its number.
-QString shown(QChar unit)
+/// As it is written in a task file: "\n", "\t", "\u00a0".
+QString escaped(QChar unit)
 {
-    constexpr ushort pictures = 0x2400;
-    constexpr ushort deletePicture = 0x2421;
-    if (unit.unicode() < 0x20)
-        return QString(QChar(static_cast<ushort>(pictures + unit.unicode())));
-    if (unit.unicode() == 0x7f)
-        return QString(QChar(deletePicture));
-    return QStringLiteral("⟨%1⟩").arg(unit.unicode(), 4, 16, QLatin1Char('0'));
+    switch (unit.unicode()) {
+    case '\n':
+        return QStringLiteral("\\n");
+    case '\r':
+        return QStringLiteral("\\r");
+    case '\t':
+        return QStringLiteral("\\t");
+    default:
+        return QStringLiteral("\\u%1").arg(unit.unicode(), 4, 16, QLatin1Char('0'));
+    }
 }
 
 bool isPair(const QString &text, int i)
@@ -50,7 +53,10 @@ QString beginning(const QString &text, int most)
 
 QString quoted(const QString &text)
 {
-    return QLatin1Char('"') + ValuePreview::visible(text) + QLatin1Char('"');
+    QString inner = text;
+    inner.replace(QLatin1Char('\\'), QLatin1String("\\\\"));
+    inner.replace(QLatin1Char('"'), QLatin1String("\\\""));
+    return QLatin1Char('"') + ValuePreview::visible(inner) + QLatin1Char('"');
 }
 
 /// Appends the value, and no more when `line` is longer than `most`.
@@ -105,7 +111,7 @@ QString ValuePreview::visible(const QString &text)
             line += unit;
             line += text.at(++i);
         } else if (unit.isSurrogate() || isUnseen(unit)) {
-            line += shown(unit);
+            line += escaped(unit);
         } else {
             line += unit;
         }
