@@ -24,6 +24,8 @@ struct OperandRecord
     PropertyRole role = PropertyRole::Text; ///< tells what the step takes the value for
 };
 
+Q_DECLARE_TYPEINFO(OperandRecord, Q_MOVABLE_TYPE);
+
 /// Reads the operands of steps that are about to run.
 class OperandTrace
 {

@@ -28,3 +28,5 @@ struct LogLine
     qint64 nanoseconds = -1;
     std::shared_ptr<const Operation> operation; ///< the step as it was when it ran
 };
+
+Q_DECLARE_TYPEINFO(LogLine, Q_MOVABLE_TYPE);

@@ -34,4 +34,6 @@ struct StepRecord
     QDateTime time;         ///< when it began
 };
 
+Q_DECLARE_TYPEINFO(WriteRecord, Q_MOVABLE_TYPE);
+Q_DECLARE_TYPEINFO(StepRecord, Q_MOVABLE_TYPE);
 Q_DECLARE_METATYPE(StepRecord)

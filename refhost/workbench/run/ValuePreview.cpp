@@ -5,6 +5,8 @@
 #include <QLocale>
 #include <QVariantList>
 
+#include <algorithm>
+
 namespace {
 
 /// What a reader would not see, or take for something else.
@@ -103,6 +105,9 @@ QString ValuePreview::of(const QVariant &value, int most)
 
 QString ValuePreview::visible(const QString &text)
 {
+    const auto isPlain = [](QChar unit) { return !unit.isSurrogate() && !isUnseen(unit); };
+    if (std::all_of(text.cbegin(), text.cend(), isPlain))
+        return text;
     QString line;
     line.reserve(text.size());
     for (int i = 0; i < text.size(); ++i) {
