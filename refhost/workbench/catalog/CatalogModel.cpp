@@ -65,12 +65,27 @@ void CatalogModel::rebuild()
 void CatalogModel::fill()
 {
     setColumnCount(1);
-    for (const CatalogEntry &entry : m_library.catalog().entries())
-        addOperation(entry);
+    // A filter looks at a group when it comes, and it comes with all that is in it.
+    QList<QStandardItem *> groups;
+    for (const CatalogEntry &entry : m_library.catalog().entries()) {
+        if (groups.isEmpty() || groups.last()->data(CatalogRole::Names).toString() != entry.root)
+            groups.append(newGroup(entry.root));
+        groups.last()->appendRow(newOperation(entry));
+    }
+    for (QStandardItem *const group : qAsConst(groups))
+        appendRow(group);
     addFailures(m_library.catalog().failures());
 }
 
-void CatalogModel::addOperation(const CatalogEntry &entry)
+QStandardItem *CatalogModel::newGroup(const QString &name) const
+{
+    auto *const group = new QStandardItem(shownLine(name, textLimit));
+    group->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+    group->setData(name, CatalogRole::Names);
+    return group;
+}
+
+QStandardItem *CatalogModel::newOperation(const CatalogEntry &entry) const
 {
     const Operation &operation = *entry.prototype;
     const QString name = shownLine(operation.typeName(), textLimit);
@@ -87,7 +102,7 @@ void CatalogModel::addOperation(const CatalogEntry &entry)
     if (!labels.isEmpty())
         lines.append(tr("设置：%1").arg(labels.join(QStringLiteral("、"))));
     item->setToolTip(shownToolTip(lines.join(QLatin1Char('\n'))));
-    group(entry.root)->appendRow(item);
+    return item;
 }
 
 void CatalogModel::addFailures(const QList<Problem> &failures)
@@ -108,17 +123,4 @@ void CatalogModel::addFailures(const QList<Problem> &failures)
         parent->appendRow(item);
     }
     appendRow(parent);
-}
-
-/// The group of that name, the last one as the entries come group by group, or else a new one.
-QStandardItem *CatalogModel::group(const QString &name)
-{
-    QStandardItem *const last = rowCount() == 0 ? nullptr : item(rowCount() - 1);
-    if (last && last->data(CatalogRole::Names).toString() == name)
-        return last;
-    auto *const created = new QStandardItem(shownLine(name, textLimit));
-    created->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
-    created->setData(name, CatalogRole::Names);
-    appendRow(created);
-    return created;
 }

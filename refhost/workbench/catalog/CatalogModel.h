@@ -38,9 +38,9 @@ Q_SIGNALS:
 private:
     void rebuild();
     void fill();
-    void addOperation(const CatalogEntry &entry);
     void addFailures(const QList<Problem> &failures);
-    QStandardItem *group(const QString &name);
+    QStandardItem *newGroup(const QString &name) const;
+    QStandardItem *newOperation(const CatalogEntry &entry) const;
 
     const PluginLibrary &m_library;
 };

@@ -195,7 +195,8 @@ void CatalogPanel::restore()
 {
     showMatches();
     const QModelIndex current = indexOf(m_current);
-    if (current.isValid())
+    // Going to a row would open its group.
+    if (current.isValid() && m_tree->isExpanded(current.parent()))
         m_tree->setCurrentIndex(current);
 }
 

@@ -3,6 +3,7 @@
 #include "Operation.h"
 
 #include <QMetaProperty>
+#include <QSet>
 
 #include <algorithm>
 
@@ -26,7 +27,8 @@ const State *stateOf(const QVector<State> &states, int id)
 template <typename State>
 void removeStates(QVector<State> &states, const QVector<int> &ids)
 {
-    const auto isNamed = [&ids](const State &state) { return ids.contains(state.id); };
+    const QSet<int> named(ids.cbegin(), ids.cend());
+    const auto isNamed = [&named](const State &state) { return named.contains(state.id); };
     states.erase(std::remove_if(states.begin(), states.end(), isNamed), states.end());
 }
 
@@ -136,10 +138,11 @@ TaskState TaskState::withoutSteps(const QVector<int> &ids) const
 
 TaskState TaskState::withStepsMoved(const QVector<int> &ids, int row) const
 {
+    const QSet<int> named(ids.cbegin(), ids.cend());
     QVector<StepState> moved;
     int target = 0;
     for (int i = 0; i < steps.size(); ++i) {
-        if (ids.contains(steps.at(i).id))
+        if (named.contains(steps.at(i).id))
             moved.append(steps.at(i));
         else if (i < row)
             ++target;

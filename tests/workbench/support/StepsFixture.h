@@ -1,0 +1,65 @@
+#pragma once
+
+#include "refhost/workbench/window/Workbench.h"
+
+#include "Operation.h"
+
+#include <QMap>
+#include <QStringList>
+
+#include <memory>
+
+/// The log lines without those in which the platform without a screen tells what it cannot do.
+inline QStringList withoutPlatformLines(const QStringList &lines)
+{
+    QStringList others;
+    for (const QString &line : lines) {
+        if (!line.startsWith("This plugin does not support"))
+            others.append(line);
+    }
+    return others;
+}
+
+/// A workbench with steps for the tests of the panels that show them.
+class StepsFixture
+{
+public:
+    explicit StepsFixture(const QStringList &plugins)
+        : bench(plugins)
+    {
+    }
+
+    /// A new step of that type with those properties.
+    StepState step(const QString &typeId, const QMap<QString, QVariant> &properties = {}) const
+    {
+        std::unique_ptr<Operation> operation(
+            bench.library.catalog().find(typeId)->prototype->clone(nullptr));
+        for (auto it = properties.begin(); it != properties.end(); ++it)
+            operation->setProperty(it.key().toUtf8().constData(), it.value());
+        return newStep(std::move(operation));
+    }
+
+    /// Opens a task of appending steps whose sources are `sources`.
+    void open(const QStringList &sources)
+    {
+        TaskState state;
+        for (const QString &source : sources)
+            state.steps.append(step("text.append", {{"sourceText", source}}));
+        bench.document.replace(state);
+    }
+
+    /// The sources of the steps in their order; a breakpoint is a "*".
+    QString sources() const
+    {
+        QStringList texts;
+        for (const StepState &each : bench.document.state().steps) {
+            texts.append(each.operation->property("sourceText").toString() +
+                         (each.breakpoint ? "*" : ""));
+        }
+        return texts.join(",");
+    }
+
+    int id(int row) const { return bench.document.state().steps.at(row).id; }
+
+    Workbench bench;
+};
