@@ -26,8 +26,10 @@ StepActions::StepActions(Workbench &bench, StepView &view, QObject *parent)
     connect(&bench.document, &TaskDocument::changed, this, &StepActions::follow);
     connect(&bench.run, &RunSession::stateChanged, this, &StepActions::follow);
     connect(&bench.place, &CurrentPlace::stepChanged, this, &StepActions::follow);
-    connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &StepActions::follow);
+    connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this,
+            &StepActions::followClipboard);
     follow();
+    followClipboard();
 }
 
 void StepActions::createActions()
@@ -92,11 +94,16 @@ void StepActions::follow()
     for (QAction *const action : qAsConst(m_selectionActions))
         action->setEnabled(!rows.isEmpty());
     enableMoves(rows);
-    const QMimeData *const mime = QGuiApplication::clipboard()->mimeData();
-    m_paste->setEnabled(mime && mayHoldTask(*mime));
     m_selectAll->setEnabled(!m_bench.document.state().steps.isEmpty());
     m_runHere->setEnabled(m_bench.place.step() != 0 &&
                           m_bench.run.state() != RunSession::State::Running);
+}
+
+/// Apart from the rest, since another program may take its time to say what it has copied.
+void StepActions::followClipboard()
+{
+    const QMimeData *const mime = QGuiApplication::clipboard()->mimeData();
+    m_paste->setEnabled(mime && mayHoldTask(*mime));
 }
 
 /// Steps that stand together at an end of the list cannot go further.

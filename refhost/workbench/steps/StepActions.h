@@ -37,6 +37,7 @@ private:
                     const QKeySequence &shortcut, void (StepActions::*slot)());
     void createActions();
     void follow();
+    void followClipboard();
     void enableMoves(const QVector<int> &rows);
     QAction *separator();
     QVector<int> selectedRows() const;

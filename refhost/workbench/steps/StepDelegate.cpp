@@ -22,6 +22,7 @@ struct Badge
     QString symbol;
     QColor color;
     QStringList lines;
+    bool isOfRun = false; ///< what the step logged, and not a finding
 };
 
 Badge findingBadge(int severity, const QStringList &lines, const Shades &shades)
@@ -42,7 +43,7 @@ QVector<Badge> badgesOf(const QModelIndex &index, const Shades &shades)
             findingBadge(severity, index.data(StepRole::Findings).toStringList(), shades));
     const QStringList warnings = index.data(StepRole::Warnings).toStringList();
     if (!warnings.isEmpty())
-        badges.append({QStringLiteral("run"), shades.warning, warnings});
+        badges.append({QStringLiteral("warning"), shades.warning, warnings, true});
     return badges;
 }
 
@@ -83,6 +84,11 @@ void paintArrow(QPainter &painter, const QRectF &gutter, const QColor &color)
     painter.drawPath(arrow.translated(gutter.center()));
 }
 
+void paintGutterEdge(QPainter &painter, const QRect &gutter, const Shades &shades)
+{
+    painter.fillRect(QRect(gutter.right(), gutter.top(), 1, gutter.height()), shades.line);
+}
+
 void paintGutter(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &index,
                  const QRect &gutter)
 {
@@ -102,7 +108,7 @@ void paintGutter(QPainter &painter, const QStyleOptionViewItem &option, const QM
         paintArrow(painter, gutter, option.palette.color(QPalette::Text));
     }
     painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.fillRect(QRect(gutter.right(), gutter.top(), 1, gutter.height()), shades.line);
+    paintGutterEdge(painter, gutter, shades);
 }
 
 void paintBackground(QPainter &painter, const QStyleOptionViewItem &option,
@@ -121,21 +127,32 @@ void paintBackground(QPainter &painter, const QStyleOptionViewItem &option,
     style.drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, option.widget);
 }
 
+/// Texts of other scripts are taller; all of a row stand on one line all the same.
+int baselineOf(const QRect &row, const QFontMetrics &metrics)
+{
+    return row.top() + (row.height() + metrics.ascent() - metrics.descent()) / 2;
+}
+
+void paintRightAligned(QPainter &painter, const QRect &rect, const QFontMetrics &metrics,
+                       const QString &text)
+{
+    painter.drawText(rect.right() + 1 - metrics.horizontalAdvance(text), baselineOf(rect, metrics),
+                     text);
+}
+
 void paintTexts(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &index,
                 const StepLayout &layout)
 {
+    const QFontMetrics &metrics = option.fontMetrics;
     painter.setFont(option.font);
     painter.setPen(quietColor(option));
-    painter.drawText(layout.number, Qt::AlignRight | Qt::AlignVCenter,
-                     QString::number(index.row() + 1));
-    painter.drawText(layout.duration, Qt::AlignRight | Qt::AlignVCenter,
-                     index.data(StepRole::Duration).toString());
+    paintRightAligned(painter, layout.number, metrics, QString::number(index.row() + 1));
+    paintRightAligned(painter, layout.duration, metrics, index.data(StepRole::Duration).toString());
     painter.setPen(
         option.palette.color(isSelected(option) ? QPalette::HighlightedText : QPalette::Text));
     const QString summary = index.data(Qt::DisplayRole).toString();
-    painter.drawText(
-        layout.summary, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-        option.fontMetrics.elidedText(summary, Qt::ElideRight, layout.summary.width()));
+    painter.drawText(layout.summary.left(), baselineOf(layout.summary, metrics),
+                     metrics.elidedText(summary, Qt::ElideRight, layout.summary.width()));
 }
 
 void paintBadge(QPainter &painter, const QStyleOptionViewItem &option, const QRect &rect,
@@ -179,6 +196,21 @@ QSize StepDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelInd
     return {0, StepLayout::rowHeight(option.fontMetrics)};
 }
 
+void StepDelegate::paintEmptyGutter(QWidget &viewport, int top)
+{
+    const QRect gutter(0, top, StepLayout::gutterWidth(viewport.fontMetrics()),
+                       viewport.height() - top);
+    QPainter painter(&viewport);
+    painter.fillRect(gutter, viewport.palette().color(QPalette::Window));
+    paintGutterEdge(painter, gutter, Shades::of(viewport.palette()));
+}
+
+QString StepDelegate::toolTipOf(bool isOfRun, const QStringList &lines)
+{
+    const QString heading = isOfRun ? tr("上次运行的警告：") : tr("检查发现：");
+    return shownToolTip((QStringList{heading} + lines).join(QLatin1Char('\n')));
+}
+
 QString StepDelegate::toolTipAt(const QPoint &position, const QStyleOptionViewItem &option,
                                 const QModelIndex &index)
 {
@@ -186,7 +218,7 @@ QString StepDelegate::toolTipAt(const QPoint &position, const QStyleOptionViewIt
     const StepLayout layout = layoutOf(option, index, badges.size());
     for (int i = 0; i < badges.size(); ++i) {
         if (layout.badges.at(i).contains(position))
-            return shownToolTip(badges.at(i).lines.join(QLatin1Char('\n')));
+            return toolTipOf(badges.at(i).isOfRun, badges.at(i).lines);
     }
     if (layout.gutter.contains(position))
         return tr("单击以设置或取消断点");

@@ -37,7 +37,7 @@ StepLayout StepLayout::of(const QRect &row, const QFontMetrics &metrics, int ste
     }
     for (int i = 0; i < badges; ++i) {
         layout.badges.prepend(centred(row, right - badgeSide + 1, badgeSide));
-        right -= badgeSide + gap;
+        right -= badgeSide + unit / 2;
     }
     const int left = layout.icon.right() + 1 + gap + gap / 2;
     layout.summary = QRect(left, row.top(), qMax(0, right - left + 1), row.height());

@@ -97,11 +97,13 @@ void StepView::keyboardSearch(const QString &search)
 
 void StepView::paintEvent(QPaintEvent *event)
 {
+    const QRect last = visualRect(m_model->index(m_model->rowCount() - 1, 0));
+    if (last.isValid())
+        StepDelegate::paintEmptyGutter(*viewport(), last.bottom() + 1);
     QListView::paintEvent(event);
     if (m_dropRow < 0)
         return;
     const bool isBehind = m_dropRow >= m_model->rowCount();
-    const QRect last = visualRect(m_model->index(m_model->rowCount() - 1, 0));
     const int y = isBehind ? last.bottom() + 1 : visualRect(m_model->index(m_dropRow, 0)).top();
     const int thickness = qMax(2, fontMetrics().height() / 8);
     const int left = StepLayout::gutterWidth(fontMetrics());
