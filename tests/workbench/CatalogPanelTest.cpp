@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -300,7 +301,9 @@ void CatalogPanelTest::copiesTheReasonOfAFailure()
 
 void CatalogPanelTest::addsFromTheMenu()
 {
-    Q_EMIT m_tree->customContextMenuRequested(m_tree->visualRect(row("添加文本")).center());
+    m_tree->setCurrentIndex(row("添加文本"));
+    QContextMenuEvent key(QContextMenuEvent::Keyboard, {1, 1});
+    QApplication::sendEvent(m_tree, &key);
     auto *const menu = m_panel->findChild<QMenu *>("catalog.menu");
     QVERIFY(menu);
     menu->actions().first()->trigger();

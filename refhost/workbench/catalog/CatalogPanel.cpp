@@ -99,6 +99,11 @@ void CatalogPanel::focusFilter()
 
 bool CatalogPanel::eventFilter(QObject *watched, QEvent *event)
 {
+    // The menu key is for the current row, wherever the mouse is.
+    if (watched == m_tree && event->type() == QEvent::ContextMenu) {
+        showMenu(m_tree->visualRect(m_tree->currentIndex()).center());
+        return true;
+    }
     if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent *>(event)->key();
         if (watched == m_filter ? filterKey(key) : treeKey(key))
