@@ -55,6 +55,8 @@ MainWindow::MainWindow(Workbench &bench, QWidget *parent)
     createPanels();
     createMenus();
     connect(m_view, &ViewMenu::languageChosen, this, &MainWindow::languageChosen);
+    connect(m_files, &FileActions::statusText, m_status, &StatusLine::tell);
+    connect(&m_bench.library, &PluginLibrary::statusText, m_status, &StatusLine::tell);
 }
 
 void MainWindow::rememberLayout()
@@ -105,8 +107,9 @@ void MainWindow::createPanels()
     m_steps = new StepsPanel(m_bench, this);
     m_variables = new VariablesPanel(m_bench, this);
     setCentralWidget(m_steps);
-    QDockWidget *const catalog = addDock(QStringLiteral("catalog"), tr("操作"),
-                                         new CatalogPanel(m_bench, this), Qt::LeftDockWidgetArea);
+    auto *const catalogPanel = new CatalogPanel(m_bench, this);
+    QDockWidget *const catalog = addDock(QStringLiteral("catalog"), tr("操作"), catalogPanel,
+                                         Qt::LeftDockWidgetArea);
     QDockWidget *const editor = addDock(QStringLiteral("editor"), tr("编辑步骤"),
                                         new EditorPanel(m_bench, this), Qt::RightDockWidgetArea);
     QDockWidget *const operands =
@@ -119,6 +122,7 @@ void MainWindow::createPanels()
     QDockWidget *const findings =
         addDock(QStringLiteral("findings"), tr("检查"), new FindingsPanel(m_bench, this),
                 Qt::BottomDockWidgetArea);
+    connect(m_steps, &StepsPanel::catalogWanted, catalogPanel, &CatalogPanel::focusFilter);
     tabifyDockWidget(log, findings);
     log->raise();
     const int unit = fontMetrics().height();
@@ -142,7 +146,7 @@ void MainWindow::createMenus()
     menuBar()->addMenu(m_view);
     menuBar()->addMenu(tr("帮助(&H)"))->addAction(tr("关于(&A)"), this, &MainWindow::showAbout);
 
-    addToolBarOf(QStringLiteral("file"), tr("文件工具栏"), m_files->toolBarActions());
+    addToolBarOf(QStringLiteral("file"), tr("文件工具栏"), m_files->mainActions());
     addToolBarOf(QStringLiteral("edit"), tr("编辑工具栏"), edit->actions());
     addToolBarOf(QStringLiteral("run"), tr("运行工具栏"), m_run->actions());
 }

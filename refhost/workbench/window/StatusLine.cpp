@@ -21,6 +21,12 @@ StatusLine::StatusLine(Workbench &bench, QWidget *parent)
     follow();
 }
 
+void StatusLine::tell(const QString &text)
+{
+    constexpr int milliseconds = 8000;
+    showMessage(text, milliseconds);
+}
+
 void StatusLine::follow()
 {
     const TaskState &state = m_bench.document.state();

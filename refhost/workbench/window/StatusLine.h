@@ -14,6 +14,9 @@ public:
     /// The workbench has to outlive the line.
     explicit StatusLine(Workbench &bench, QWidget *parent = nullptr);
 
+    /// Shows a message for a while.
+    void tell(const QString &text);
+
 private:
     void follow();
     QString runText() const;

@@ -2,6 +2,7 @@
 
 Workbench::Workbench(const QStringList &pluginFiles)
     : library(pluginFiles)
+    , migrator(document, library)
     , run(document)
     , check(document, library)
     , place(document)

@@ -4,6 +4,7 @@
 #include "refhost/workbench/document/LiveCheck.h"
 #include "refhost/workbench/document/TaskDocument.h"
 #include "refhost/workbench/library/PluginLibrary.h"
+#include "refhost/workbench/library/StepMigrator.h"
 #include "refhost/workbench/run/RunSession.h"
 
 #include <QStringList>
@@ -16,6 +17,7 @@ struct Workbench
 
     PluginLibrary library;
     TaskDocument document;
+    StepMigrator migrator;
     RunSession run;
     LiveCheck check;
     CurrentPlace place;
