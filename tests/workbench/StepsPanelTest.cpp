@@ -278,7 +278,6 @@ void StepsPanelTest::shortcutsWork_data()
     QTest::newRow("duplicate") << int(Qt::Key_D) << control << "a,b,b,c,d,e";
     QTest::newRow("up") << int(Qt::Key_Up) << alt << "b,a,c,d,e";
     QTest::newRow("down") << int(Qt::Key_Down) << alt << "a,c,b,d,e";
-    QTest::newRow("breakpoint") << int(Qt::Key_F9) << 0 << "a,b*,c,d,e";
     QTest::newRow("letter") << int(Qt::Key_D) << 0 << "a,b,c,d,e";
 }
 

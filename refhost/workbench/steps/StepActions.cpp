@@ -55,9 +55,10 @@ void StepActions::createActions()
                       Qt::ALT + Qt::Key_Up, &StepActions::moveUp);
     m_moveDown = create(QStringLiteral("steps.moveDown"), tr("下移(&O)"), QStringLiteral("down"),
                         Qt::ALT + Qt::Key_Down, &StepActions::moveDown);
+    // F9 is the window's, for the current step.
     QAction *const breakpoint =
         create(QStringLiteral("steps.breakpoint"), tr("设置或取消断点(&B)"),
-               QStringLiteral("breakpoint"), Qt::Key_F9, &StepActions::toggleBreakpoint);
+               QStringLiteral("breakpoint"), {}, &StepActions::toggleBreakpoint);
     m_runHere = create(QStringLiteral("steps.runHere"), tr("运行到此处(&R)"),
                        QStringLiteral("run-to"), {}, &StepActions::runHere);
     m_selectionActions = {cutSteps, copySteps, copies, removal, breakpoint};

@@ -2,6 +2,7 @@
 
 #include "refhost/workbench/look/OperationIcon.h"
 #include "refhost/workbench/look/ShownText.h"
+#include "refhost/workbench/run/DurationText.h"
 #include "refhost/workbench/steps/StepDrag.h"
 #include "refhost/workbench/steps/StepEdits.h"
 #include "refhost/workbench/steps/TaskClipboard.h"
@@ -19,22 +20,6 @@ namespace {
 /// A run may finish thousands of steps a second; nobody sees them one by one.
 constexpr int runMilliseconds = 40;
 constexpr int summaryLimit = 500;
-
-QString durationText(qint64 nanoseconds)
-{
-    constexpr double thousand = 1000.0;
-    double amount = static_cast<double>(nanoseconds);
-    QString unit = QStringLiteral("ns");
-    for (const QString &larger :
-         {QStringLiteral("µs"), QStringLiteral("ms"), QStringLiteral("s")}) {
-        if (amount < thousand)
-            break;
-        amount /= thousand;
-        unit = larger;
-    }
-    const int decimals = amount < 100 && unit != QLatin1String("ns") ? 1 : 0;
-    return QStringLiteral("%1 %2").arg(QString::number(amount, 'f', decimals), unit);
-}
 
 int worstSeverity(const QList<Finding> &findings)
 {
