@@ -26,26 +26,28 @@ LoadedPlugin::~LoadedPlugin() = default;
 LoadedPlugin::LoadedPlugin(LoadedPlugin &&other) noexcept = default;
 LoadedPlugin &LoadedPlugin::operator=(LoadedPlugin &&other) noexcept = default;
 
-Result<LoadedPlugin> LoadedPlugin::load(const QString &path)
+Result<LoadedPlugin> LoadedPlugin::load(const QString &path, const QString &original)
 {
+    const QString name = original.isEmpty() ? path : original;
     if (!QFileInfo(path).isFile())
-        return notLoaded(path, EngineText::tr("there is no such file"));
+        return notLoaded(name, EngineText::tr("there is no such file"));
     // Qt would look for a relative path in its own plug-in folders, not here.
-    QPluginLoader loader(QFileInfo(path).absoluteFilePath());
+    const QString file = QFileInfo(path).absoluteFilePath();
+    QPluginLoader loader(file);
     QObject *const root = loader.instance();
     if (!root)
-        return notLoaded(path, loader.errorString());
+        return notLoaded(name, loader.errorString().replace(file, name));
     auto *const plugin = qobject_cast<IOperationPlugin *>(root);
     if (!plugin) {
-        return notLoaded(path, EngineText::tr("its root object does not implement %1")
+        return notLoaded(name, EngineText::tr("its root object does not implement %1")
                                    .arg(QStringLiteral(IOperationPlugin_iid)));
     }
     const QString reason = hostRefusal(*plugin);
     if (!reason.isEmpty())
-        return notLoaded(path, reason);
+        return notLoaded(name, reason);
 
     LoadedPlugin loaded;
-    loaded.m_path = path;
+    loaded.m_path = name;
     loaded.m_manifest = plugin->manifest();
     const QList<Operation *> prototypes = plugin->createPrototypes();
     for (Operation *prototype : prototypes) {

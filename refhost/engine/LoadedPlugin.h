@@ -17,8 +17,8 @@ class LoadedPlugin
 {
 public:
     /// Loads the library file at `path`. Problems carry Qt's own reason, or tell what about the
-    /// plug-in this host cannot use.
-    static Result<LoadedPlugin> load(const QString &path);
+    /// plug-in this host cannot use. Where that file is a copy, `original` is the one it goes by.
+    static Result<LoadedPlugin> load(const QString &path, const QString &original = {});
 
     ~LoadedPlugin();
     LoadedPlugin(LoadedPlugin &&other) noexcept;

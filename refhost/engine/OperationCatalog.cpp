@@ -37,10 +37,10 @@ QList<CatalogEntry> entriesOf(const LoadedPlugin &plugin)
 
 } // namespace
 
-OperationCatalog::OperationCatalog(const QStringList &files)
+OperationCatalog::OperationCatalog(const QStringList &files, const QHash<QString, QString> &copies)
 {
     for (const QString &file : files) {
-        Result<LoadedPlugin> plugin = LoadedPlugin::load(file);
+        Result<LoadedPlugin> plugin = LoadedPlugin::load(copies.value(file, file), file);
         if (plugin)
             add(std::move(plugin.value()));
         else

@@ -3,6 +3,7 @@
 #include "refhost/engine/LoadedPlugin.h"
 #include "refhost/engine/Problem.h"
 
+#include <QHash>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -27,8 +28,9 @@ class OperationCatalog
 {
 public:
     /// Loads the plug-ins in `files`. One that cannot be loaded, or that brings a type identifier
-    /// that is there already, is left out and stands in `failures`.
-    explicit OperationCatalog(const QStringList &files);
+    /// that is there already, is left out and stands in `failures`. A file that is a key of
+    /// `copies` is loaded from the copy that stands there, and goes by its own name all the same.
+    explicit OperationCatalog(const QStringList &files, const QHash<QString, QString> &copies = {});
 
     const QList<CatalogEntry> &entries() const { return m_entries; }
     const QList<Problem> &failures() const { return m_failures; }

@@ -28,11 +28,13 @@ public:
     /// Reads a file, which may have either form.
     Result<Task> readFile(const QString &path) const;
 
+    /// Reads the content of a file, of either form; problems name no file.
+    Result<Task> readBytes(const QByteArray &bytes) const;
+
     /// Reads a task from an object already parsed; problems name no file.
     Result<Task> read(const QJsonObject &json) const;
 
 private:
-    Result<Task> readBytes(const QByteArray &bytes) const;
     std::optional<Problem> readSteps(const QJsonValue &json, const QString &place,
                                      Task &task) const;
     Result<std::unique_ptr<Operation>> readStep(const QJsonValue &json, const QString &place) const;

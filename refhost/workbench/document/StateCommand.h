@@ -30,6 +30,9 @@ public:
     int id() const override;
     bool mergeWith(const QUndoCommand *other) override;
 
+    const TaskState &before() const { return m_before; }
+    const TaskState &after() const { return m_after; }
+
 private:
     TaskDocument &m_document;
     TaskState m_before;

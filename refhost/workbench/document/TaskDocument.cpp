@@ -2,6 +2,8 @@
 
 #include "refhost/workbench/document/StateCommand.h"
 
+#include "Operation.h"
+
 #include <QScopedValueRollback>
 
 namespace {
@@ -10,6 +12,12 @@ bool isStale(const QUndoCommand *command)
 {
     const auto *const own = dynamic_cast<const DocumentCommand *>(command);
     return own && own->isStale();
+}
+
+void addTypes(const TaskState &state, QSet<QString> &types)
+{
+    for (const StepState &step : state.steps)
+        types.insert(step.operation->typeId());
 }
 
 } // namespace
@@ -70,10 +78,48 @@ void TaskDocument::replace(const TaskState &state, bool modified)
 {
     endTyping();
     m_undoStack.clear();
-    m_savedState = state;
+    m_savedState = migrated(state);
     m_neverSaved = modified;
     setState(state);
     Q_EMIT replaced();
+}
+
+void TaskDocument::setStepMigration(const StepMigration &newer)
+{
+    m_migration = newer;
+}
+
+void TaskDocument::migrateSteps()
+{
+    m_savedState = migrated(m_savedState);
+    setState(m_state);
+}
+
+QSet<QString> TaskDocument::usedTypes() const
+{
+    QSet<QString> types;
+    addTypes(m_state, types);
+    addTypes(m_savedState, types);
+    for (int i = 0; i < m_undoStack.count(); ++i) {
+        if (const auto *const command =
+                dynamic_cast<const StateCommand *>(m_undoStack.command(i))) {
+            addTypes(command->before(), types);
+            addTypes(command->after(), types);
+        }
+    }
+    return types;
+}
+
+TaskState TaskDocument::migrated(const TaskState &state) const
+{
+    TaskState next = state;
+    for (int row = 0; m_migration && row < next.steps.size(); ++row) {
+        const std::shared_ptr<const Operation> &present = state.steps.at(row).operation;
+        const std::shared_ptr<const Operation> newer = m_migration(present);
+        if (newer != present)
+            next.steps[row].operation = newer;
+    }
+    return next;
 }
 
 void TaskDocument::apply(const TaskState &state, const EditPlace &place)
@@ -86,7 +132,7 @@ void TaskDocument::apply(const TaskState &state, const EditPlace &place)
 void TaskDocument::setState(const TaskState &state)
 {
     const TaskState before = m_state;
-    m_state = state;
+    m_state = migrated(state);
     Q_EMIT changed(before);
     updateModified();
 }

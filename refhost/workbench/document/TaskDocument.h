@@ -4,7 +4,10 @@
 #include "refhost/workbench/document/TaskState.h"
 
 #include <QObject>
+#include <QSet>
 #include <QUndoStack>
+
+#include <functional>
 
 /// The task in the window. It changes through steps of undo and nothing else, so that whatever is
 /// done can be undone.
@@ -13,6 +16,9 @@ class TaskDocument : public QObject
     Q_OBJECT
 
 public:
+    using StepMigration = std::function<std::shared_ptr<const Operation>(
+        const std::shared_ptr<const Operation> &operation)>;
+
     explicit TaskDocument(QObject *parent = nullptr);
 
     const TaskState &state() const { return m_state; }
@@ -24,6 +30,14 @@ public:
     /// until `endTyping`.
     void type(const QString &text, const TaskState &next, const EditPlace &place);
     void endTyping();
+
+    /// Lets `newer` bring the operations of every state up to date before it is shown, those of the
+    /// history included: it gives the operation to use instead, or the same.
+    void setStepMigration(const StepMigration &newer);
+    /// Brings the present operations up to date. No step of undo, and no change to the task.
+    void migrateSteps();
+    /// The types of all steps, those of the history and of the saved task included.
+    QSet<QString> usedTypes() const;
 
     /// For commands that change something else, such as a value of a run.
     QUndoStack &undoStack() { return m_undoStack; }
@@ -56,8 +70,10 @@ private:
     void apply(const TaskState &state, const EditPlace &place);
     void setState(const TaskState &state);
     void updateModified();
+    TaskState migrated(const TaskState &state) const;
 
     QUndoStack m_undoStack;
+    StepMigration m_migration;
     TaskState m_state;
     TaskState m_savedState;
     bool m_neverSaved = false;
