@@ -1,0 +1,3 @@
+#include "refhost/workbench/files/Questions.h"
+
+Questions::~Questions() = default;

@@ -1,0 +1,9 @@
+#include "refhost/workbench/files/Settings.h"
+
+#include <QStandardPaths>
+
+QString settingsFile()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           QStringLiteral("/opworkbench.ini");
+}
