@@ -230,7 +230,7 @@ void FileActionsTest::asksBeforeChangesAreLost_data()
     QTest::addColumn<bool>("left");
     QTest::addColumn<QString>("onDisk");
 
-    for (const char *const way : {"new", "open", "open path", "drop", "recent", "close", "quit"}) {
+    for (const char *const way : {"new", "open", "open path", "drop", "recent", "close"}) {
         const auto row = [&](const char *answer) -> QTestData & {
             return QTest::newRow(qPrintable(QString("%1, %2").arg(way, answer))) << QString(way);
         };
@@ -271,7 +271,7 @@ void FileActionsTest::asksBeforeChangesAreLost()
         Q_EMIT recent->aboutToShow();
         recent->actions().at(1)->trigger();
     } else {
-        // The window itself asks, in its close event.
+        // What a window asks when it is closed.
         QCOMPARE(m_files->mayLeave(), left);
         expected = "edited";
     }
