@@ -2,6 +2,7 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QLocale>
 #include <QPushButton>
 
@@ -10,6 +11,18 @@ namespace {
 QString nameOf(const QString &path)
 {
     return QFileInfo(path).fileName();
+}
+
+/// Keeps paths and reasons from being broken into many short lines.
+void widen(QMessageBox &box)
+{
+    constexpr int letters = 55;
+    auto *const grid = qobject_cast<QGridLayout *>(box.layout());
+    if (grid) {
+        const int width = letters * box.fontMetrics().averageCharWidth();
+        grid->addItem(new QSpacerItem(width, 0, QSizePolicy::Minimum, QSizePolicy::Fixed),
+                      grid->rowCount(), 0, 1, grid->columnCount());
+    }
 }
 
 } // namespace
@@ -27,6 +40,7 @@ int DialogQuestions::ask(QMessageBox::Icon icon, const QString &text, const QStr
     // Names of files are texts, whatever stands in them.
     box.setTextFormat(Qt::PlainText);
     box.setInformativeText(more);
+    widen(box);
     QList<QAbstractButton *> added;
     for (const Button &button : buttons)
         added.append(box.addButton(button.text, button.role));
