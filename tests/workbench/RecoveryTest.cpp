@@ -40,6 +40,7 @@ private Q_SLOTS:
     void leavesNothingWhen();
     void writesBeforeARun();
     void writesNothingTwice();
+    void typingIsNotHeldUp();
     void keepsExactValues();
     void keepsWhatNobodyDecidedAbout();
     void aTaskThatCannotBeReadIsKept();
@@ -243,6 +244,26 @@ void RecoveryTest::writesNothingTwice()
     edit("c");
     QVERIFY(m_files->recovery().flush());
     QVERIFY(QFileInfo::exists(file));
+}
+
+void RecoveryTest::typingIsNotHeldUp()
+{
+    QVERIFY(!m_files->load(task()));
+    TaskDocument &document = m_bench->document;
+    const TaskVariable large{"large", VarType::String, QString(1 << 22, 'x')};
+    document.change("variable", document.state().withVariable(0, {newStateId(), large}), {});
+    for (int i = 0; i < 50; ++i) {
+        edit(QString::number(i));
+        QTest::qWait(30);
+    }
+    QTRY_COMPARE(kept().size(), 1);
+    QVERIFY(m_files->recovery().flush());
+    closeWindow();
+    openWindow();
+    m_script.lost = Questions::Lost::Restore;
+    m_files->offerLost();
+    QCOMPARE(source(), QString("49"));
+    QCOMPARE(m_bench->document.state().variableNamed("large")->variable.value, large.value);
 }
 
 void RecoveryTest::keepsExactValues()

@@ -1,6 +1,7 @@
 #include "refhost/workbench/files/Recovery.h"
 
 #include "refhost/engine/FileBytes.h"
+#include "refhost/engine/PackedForm.h"
 #include "refhost/engine/TaskPacker.h"
 #include "refhost/workbench/document/TaskDocument.h"
 #include "refhost/workbench/run/RunSession.h"
@@ -8,6 +9,7 @@
 #include "Operation.h"
 
 #include <QDir>
+#include <QThread>
 #include <QUuid>
 
 namespace {
@@ -16,6 +18,34 @@ constexpr int delayMilliseconds = 500;
 
 } // namespace
 
+/// One state on its way to the file, and what has come of it.
+struct Recovery::Job
+{
+    Task task; ///< with operations of its own
+    RecoveryOrigin origin;
+    QString file;
+    QByteArray stamp; ///< of what is in the file
+    std::optional<Problem> problem;
+
+    void run();
+};
+
+void Recovery::Job::run()
+{
+    const Result<QByteArray> packed = packTask(task);
+    if (!packed) {
+        problem = packed.problem();
+        return;
+    }
+    // The packed form ends with its checksum.
+    const QByteArray next = recoveryBytes(origin, packed.value().right(PackedForm::checksumSize));
+    if (next == stamp)
+        return;
+    problem = writeFileBytes(file, recoveryBytes(origin, packed.value()));
+    if (!problem)
+        stamp = next;
+}
+
 Recovery::Recovery(TaskDocument &document, const RunSession &run, QString folder, QObject *parent)
     : QObject(parent)
     , m_document(document)
@@ -23,7 +53,7 @@ Recovery::Recovery(TaskDocument &document, const RunSession &run, QString folder
 {
     m_timer.setSingleShot(true);
     m_timer.setInterval(delayMilliseconds);
-    connect(&m_timer, &QTimer::timeout, this, &Recovery::flush);
+    connect(&m_timer, &QTimer::timeout, this, &Recovery::begin);
     connect(&document, &TaskDocument::changed, this, &Recovery::noteChange);
     connect(&document, &TaskDocument::modifiedChanged, this, [this](bool modified) {
         if (!modified)
@@ -34,6 +64,7 @@ Recovery::Recovery(TaskDocument &document, const RunSession &run, QString folder
 
 Recovery::~Recovery()
 {
+    waitForJob();
     if (!m_document.isModified() || m_givenUp)
         remove();
 }
@@ -55,34 +86,53 @@ void Recovery::noteChange()
 
 bool Recovery::flush()
 {
+    waitForJob();
+    begin();
+    waitForJob();
     m_timer.stop();
-    if (!m_document.isModified() || !m_pending)
-        return true;
-    const Result<QByteArray> packed = packTask(m_document.state().toTask());
-    if (!packed) {
-        Q_EMIT failed(packed.problem());
-        return false;
-    }
-    m_pending = !write(packed.value());
-    return !m_pending;
+    return !m_document.isModified() || !m_pending;
 }
 
-bool Recovery::write(const QByteArray &packedTask)
+void Recovery::begin()
 {
-    const QByteArray bytes = recoveryBytes(m_origin, packedTask);
-    const QByteArray stamp = stampOf(bytes);
-    if (stamp == m_writtenStamp)
-        return true;
+    if (m_job || !m_pending || !m_document.isModified())
+        return;
     if (!prepareFile()) {
         Q_EMIT failed({Problem::Reason::UnwritableFile, m_folder, {}, tr("无法写入恢复文件夹")});
-        return false;
+        return;
     }
-    if (const auto problem = writeFileBytes(m_file, bytes)) {
-        Q_EMIT failed(*problem);
-        return false;
+    m_pending = false;
+    m_job = std::make_unique<Job>();
+    m_job->task = m_document.state().toTask();
+    m_job->origin = m_origin;
+    m_job->file = m_file;
+    m_job->stamp = m_writtenStamp;
+    m_thread.reset(QThread::create([job = m_job.get()] { job->run(); }));
+    connect(m_thread.get(), &QThread::finished, this, &Recovery::finish);
+    m_thread->start();
+}
+
+void Recovery::finish()
+{
+    if (m_thread && m_thread->isFinished())
+        waitForJob();
+}
+
+/// Takes over what has come of the job. What has changed since it began is still pending.
+void Recovery::waitForJob()
+{
+    if (!m_job)
+        return;
+    m_thread->wait();
+    m_thread.reset();
+    const std::unique_ptr<Job> job = std::move(m_job);
+    m_writtenStamp = job->stamp;
+    if (job->problem) {
+        m_pending = true;
+        Q_EMIT failed(*job->problem);
+    } else if (m_pending) {
+        m_timer.start();
     }
-    m_writtenStamp = stamp;
-    return true;
 }
 
 /// The lock comes first: there is never a file that looks as if its window were gone.
@@ -104,6 +154,7 @@ bool Recovery::prepareFile()
 
 void Recovery::remove()
 {
+    waitForJob();
     m_timer.stop();
     if (!m_lock)
         return;

@@ -8,11 +8,13 @@
 
 #include <memory>
 
+class QThread;
 class RunSession;
 class TaskDocument;
 
 /// Keeps a modified task in a file of its own, so that it is not lost with the process: half a
 /// second after a change, and before a run goes on, since a plug-in may take the process along.
+/// Large tasks hold up nobody: they are written on a thread of their own, from copies.
 class Recovery : public QObject
 {
     Q_OBJECT
@@ -42,8 +44,12 @@ Q_SIGNALS:
     void failed(const Problem &problem);
 
 private:
+    struct Job;
+
     void noteChange();
-    bool write(const QByteArray &packedTask);
+    void begin();
+    void finish();
+    void waitForJob();
     bool prepareFile();
     void remove();
 
@@ -53,6 +59,8 @@ private:
     std::unique_ptr<QLockFile> m_lock;
     RecoveryOrigin m_origin;
     QTimer m_timer;
+    std::unique_ptr<Job> m_job; ///< what the thread is at
+    std::unique_ptr<QThread> m_thread;
     QByteArray m_writtenStamp;
     bool m_pending = false; ///< the state may be another than the one in the file
     bool m_givenUp = false;

@@ -98,7 +98,7 @@ void RecoveryFile::remove()
 
 QString recoveryFolder()
 {
-    const QString chosen = qEnvironmentVariable("OPWORKBENCH_RECOVERY");
+    QString chosen = qEnvironmentVariable("OPWORKBENCH_RECOVERY");
     if (!chosen.isEmpty())
         return chosen;
     return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) +

@@ -9,6 +9,7 @@
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
+#include <QTemporaryDir>
 
 #include <algorithm>
 
@@ -17,6 +18,38 @@ namespace {
 QByteArray checksum(const QByteArray &bytes)
 {
     return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
+}
+
+/// The copies of this process, by what is in them: a library is loaded once, however often its file
+/// comes back or another window asks for it. They go with the process.
+struct Copies
+{
+    QTemporaryDir folder;
+    QHash<QByteArray, QString> paths;
+};
+
+Copies &allCopies()
+{
+    static Copies copies;
+    return copies;
+}
+
+/// A copy of the file with that content, under a name that no other content ever has; empty when it
+/// cannot be written.
+QString copyOf(const QString &file, const QByteArray &bytes)
+{
+    Copies &copies = allCopies();
+    const QString name = QFileInfo(file).fileName();
+    const QByteArray key = checksum(bytes) + name.toUtf8();
+    if (copies.paths.contains(key))
+        return copies.paths.value(key);
+    const QDir folder(copies.folder.filePath(QString::number(copies.paths.size())));
+    const QString copy = folder.filePath(name);
+    if (!copies.folder.isValid() || !folder.mkpath(QStringLiteral(".")) ||
+        writeFileBytes(copy, separated(bytes)))
+        return {};
+    copies.paths.insert(key, copy);
+    return copy;
 }
 
 } // namespace
@@ -52,16 +85,6 @@ void PluginLibrary::loadFirst()
     for (const Problem &failure : m_catalog->failures())
         m_copies.remove(failure.file);
     m_catalog = std::make_unique<OperationCatalog>(m_files, m_copies);
-}
-
-/// Writes a copy under a name that was never used before; empty when that fails.
-QString PluginLibrary::copyOf(const QString &file, const QByteArray &bytes)
-{
-    const QDir folder(m_folder.filePath(QString::number(++m_copyCount)));
-    const QString copy = folder.filePath(QFileInfo(file).fileName());
-    const bool written = m_folder.isValid() && folder.mkpath(QStringLiteral(".")) &&
-                         !writeFileBytes(copy, separated(bytes));
-    return written ? copy : QString();
 }
 
 bool PluginLibrary::isInUse(const QString &file) const

@@ -7,7 +7,6 @@
 #include <QObject>
 #include <QSet>
 #include <QStringList>
-#include <QTemporaryDir>
 
 #include <functional>
 #include <memory>
@@ -53,7 +52,6 @@ Q_SIGNALS:
 
 private:
     void loadFirst();
-    QString copyOf(const QString &file, const QByteArray &bytes);
     bool isInUse(const QString &file) const;
     void load(const QString &file, const QByteArray &bytes);
     std::optional<Problem> objection(const OperationCatalog &next, const QString &file) const;
@@ -62,8 +60,6 @@ private:
     void updateWatch();
 
     QStringList m_files;
-    QTemporaryDir m_folder;
-    int m_copyCount = 0;
     QHash<QString, QString> m_copies;
     QHash<QString, QByteArray> m_checksums; ///< of each file as it was looked at last
     QHash<QString, Problem> m_refused;      ///< of a file as it is now

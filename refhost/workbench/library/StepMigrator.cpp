@@ -35,7 +35,7 @@ StepMigrator::Shared StepMigrator::newer(const Shared &operation)
     const auto origin = m_origins.constFind(operation.get());
     const Shared from = origin == m_origins.constEnd() ? operation : origin->from;
     MigratedStep step = migrateStep(*from, *entry->prototype);
-    const Shared to(std::move(step.operation));
+    Shared to(std::move(step.operation));
     m_origins.insert(to.get(), {from, to, step.lost});
     m_migrations.insert(operation.get(), {operation, to, {}});
     return to;
