@@ -44,7 +44,7 @@ QString copyOf(const QString &file, const QByteArray &bytes)
     if (copies.paths.contains(key))
         return copies.paths.value(key);
     const QDir folder(copies.folder.filePath(QString::number(copies.paths.size())));
-    const QString copy = folder.filePath(name);
+    QString copy = folder.filePath(name);
     if (!copies.folder.isValid() || !folder.mkpath(QStringLiteral(".")) ||
         writeFileBytes(copy, separated(bytes)))
         return {};
