@@ -36,6 +36,7 @@ CatalogModel::CatalogModel(const PluginLibrary &library, QObject *parent)
     , m_library(library)
 {
     connect(&library, &PluginLibrary::reloaded, this, &CatalogModel::rebuild);
+    connect(&library, &PluginLibrary::failuresChanged, this, &CatalogModel::rebuild);
     fill();
 }
 
@@ -74,7 +75,7 @@ void CatalogModel::fill()
     }
     for (QStandardItem *const group : qAsConst(groups))
         appendRow(group);
-    addFailures(m_library.catalog().failures());
+    addFailures(m_library.failures());
 }
 
 QStandardItem *CatalogModel::newGroup(const QString &name) const

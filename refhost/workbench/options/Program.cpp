@@ -4,7 +4,7 @@
 #include "refhost/engine/PluginFolder.h"
 #include "refhost/workbench/files/FileActions.h"
 #include "refhost/workbench/look/Appearance.h"
-#include "refhost/workbench/options/Language.h"
+#include "refhost/workbench/look/Language.h"
 #include "refhost/workbench/options/Screenshot.h"
 #include "refhost/workbench/options/WorkbenchOptions.h"
 #include "refhost/workbench/options/WorkbenchStatus.h"
@@ -48,7 +48,7 @@ std::optional<int> readCommandLine(int argc, char *argv[], WorkbenchOptions &opt
 {
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    Language::install(WorkbenchOptions::languageIn(arguments));
+    installLanguage(WorkbenchOptions::languageIn(arguments));
     const Result<WorkbenchOptions> parsed = WorkbenchOptions::parse(arguments);
     if (!parsed) {
         complain(QCoreApplication::translate("Program", "%1用法见 opworkbench --help。")
@@ -127,6 +127,7 @@ int drawWindow(Workbench &bench, MainWindow &window, const WorkbenchOptions &opt
 
 int showWindow(Workbench &bench, MainWindow &window, const WorkbenchOptions &options)
 {
+    window.rememberLayout();
     window.show();
     // Questions come over a window that is there.
     QTimer::singleShot(0, &window, [&] {
@@ -149,7 +150,7 @@ int runWorkbench(int argc, char *argv[])
     // The options are read; Qt's own of the same names mean something else.
     int ownCount = 1;
     QApplication application(ownCount, argv);
-    Language::install(options.language);
+    installLanguage(options.language);
     applyAppearance(options.style);
     Workbench bench(options.plugins.isEmpty()
                         ? pluginFiles(pluginFolders(QCoreApplication::applicationDirPath()))

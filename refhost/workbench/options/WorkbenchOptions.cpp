@@ -1,7 +1,8 @@
 #include "refhost/workbench/options/WorkbenchOptions.h"
 
 #include "refhost/workbench/look/Appearance.h"
-#include "refhost/workbench/options/Language.h"
+#include "refhost/workbench/look/Language.h"
+#include "refhost/workbench/look/Remembered.h"
 
 #include <QCommandLineParser>
 #include <QRegularExpression>
@@ -86,7 +87,7 @@ void WorkbenchOptions::addOptions(QCommandLineParser &parser)
     parser.addOptions({
         {pluginName(), tr("加载这个插件，代替程序自带的；可重复。文件改变时重新加载。"), file},
         {styleName(), tr("窗口的外观：%1。").arg(choices(appearanceNames())), tr("名称")},
-        {languageName(), tr("窗口的语言：%1。").arg(choices(Language::names())), tr("语言")},
+        {languageName(), tr("窗口的语言：%1。").arg(choices(languageNames())), tr("语言")},
         {stepName(), tr("选中这一步，从 1 开始计数。"), number},
         {runName(), tr("打开后运行任务。")},
         {pauseName(), tr("打开后运行任务，在这一步之前暂停。"), number},
@@ -100,7 +101,7 @@ void WorkbenchOptions::addOptions(QCommandLineParser &parser)
 QString WorkbenchOptions::languageIn(const QStringList &arguments)
 {
     const QString given = givenLanguage(arguments);
-    return Language::names().contains(given) ? given : Language::ofSystem();
+    return languageNames().contains(given) ? given : rememberedLanguage();
 }
 
 QString WorkbenchOptions::helpText()
@@ -152,15 +153,15 @@ std::optional<Problem> WorkbenchOptions::read(const QCommandLineParser &parser)
 
 std::optional<Problem> WorkbenchOptions::readNames(const QCommandLineParser &parser)
 {
-    if (parser.isSet(styleName()))
-        style = parser.value(styleName()).toLower();
+    style =
+        parser.isSet(styleName()) ? parser.value(styleName()).toLower() : rememberedAppearance();
     if (!appearanceNames().contains(style)) {
         return usage(tr("没有外观“%1”；可用的有 %2。")
                          .arg(parser.value(styleName()), choices(appearanceNames())));
     }
     const QString given = parser.value(languageName());
-    if (parser.isSet(languageName()) && !Language::names().contains(given)) {
-        return usage(tr("没有语言“%1”；可用的有 %2。").arg(given, choices(Language::names())));
+    if (parser.isSet(languageName()) && !languageNames().contains(given)) {
+        return usage(tr("没有语言“%1”；可用的有 %2。").arg(given, choices(languageNames())));
     }
     screenshot = parser.value(screenshotName());
     for (const QString &name : {pluginName(), screenshotName()}) {

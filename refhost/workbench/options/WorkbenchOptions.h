@@ -17,9 +17,9 @@ class WorkbenchOptions
     Q_DECLARE_TR_FUNCTIONS(WorkbenchOptions)
 
 public:
-    QStringList plugins; ///< those to load instead of those beside the program, empty for these
-    QString style = QStringLiteral("light");
-    QString language;      ///< one of `Language::names`
+    QStringList plugins;   ///< those to load instead of those beside the program, empty for these
+    QString style;         ///< one of `appearanceNames`
+    QString language;      ///< one of `languageNames`
     QString screenshot;    ///< the picture to write instead of showing the window, may be empty
     QSize size{1280, 800}; ///< of the picture, in logical pixels
     QString task;          ///< the task to open, may be empty
@@ -32,8 +32,8 @@ public:
     /// Reads the command line, the name of the program included. A problem says what is wrong.
     static Result<WorkbenchOptions> parse(const QStringList &arguments);
 
-    /// The language a command line asks for, else that of the system: the messages about all the
-    /// rest of it are in that language, too.
+    /// The language a command line asks for, else the one that is remembered: the messages about
+    /// all the rest of it are in that language, too.
     static QString languageIn(const QStringList &arguments);
 
     /// The text of --help, and the line of --version.

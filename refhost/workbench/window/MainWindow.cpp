@@ -3,6 +3,7 @@
 #include "refhost/workbench/catalog/CatalogPanel.h"
 #include "refhost/workbench/editor/EditorPanel.h"
 #include "refhost/workbench/files/FileActions.h"
+#include "refhost/workbench/files/Settings.h"
 #include "refhost/workbench/look/SymbolIcon.h"
 #include "refhost/workbench/run/FindingsPanel.h"
 #include "refhost/workbench/run/LogPanel.h"
@@ -54,15 +55,13 @@ MainWindow::MainWindow(Workbench &bench, QWidget *parent)
     setStatusBar(m_status);
     createPanels();
     createMenus();
-    connect(m_view, &ViewMenu::languageChosen, this, &MainWindow::languageChosen);
-    connect(m_files, &FileActions::statusText, m_status, &StatusLine::tell);
-    connect(&m_bench.library, &PluginLibrary::statusText, m_status, &StatusLine::tell);
+    connectMessages();
 }
 
 void MainWindow::rememberLayout()
 {
     m_remembers = true;
-    const QSettings settings;
+    const QSettings settings(settingsFile(), QSettings::IniFormat);
     restoreGeometry(settings.value(geometryKey()).toByteArray());
     restoreState(settings.value(layoutKey()).toByteArray());
 }
@@ -72,7 +71,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
     event->setAccepted(m_files->mayLeave());
     if (!event->isAccepted() || !m_remembers)
         return;
-    QSettings settings;
+    QSettings settings(settingsFile(), QSettings::IniFormat);
     settings.setValue(geometryKey(), saveGeometry());
     settings.setValue(layoutKey(), saveState());
 }
@@ -87,6 +86,18 @@ void MainWindow::dropEvent(QDropEvent *event)
 {
     if (m_files->openDropped(*event->mimeData()))
         event->acceptProposedAction();
+}
+
+void MainWindow::connectMessages()
+{
+    connect(m_files, &FileActions::statusText, m_status, &StatusLine::tell);
+    connect(&m_bench.library, &PluginLibrary::statusText, m_status, &StatusLine::tell);
+    connect(&m_bench.migrator, &StepMigrator::migrated, m_status, [this](const QStringList &lost) {
+        if (!lost.isEmpty())
+            m_status->tell(lost.join(tr("；")));
+    });
+    connect(m_view, &ViewMenu::languageChosen, m_status,
+            [this] { m_status->tell(tr("下次启动时使用所选的语言。")); });
 }
 
 QDockWidget *MainWindow::addDock(const QString &name, const QString &title, QWidget *panel,
@@ -108,8 +119,8 @@ void MainWindow::createPanels()
     m_variables = new VariablesPanel(m_bench, this);
     setCentralWidget(m_steps);
     auto *const catalogPanel = new CatalogPanel(m_bench, this);
-    QDockWidget *const catalog = addDock(QStringLiteral("catalog"), tr("操作"), catalogPanel,
-                                         Qt::LeftDockWidgetArea);
+    QDockWidget *const catalog =
+        addDock(QStringLiteral("catalog"), tr("操作"), catalogPanel, Qt::LeftDockWidgetArea);
     QDockWidget *const editor = addDock(QStringLiteral("editor"), tr("编辑步骤"),
                                         new EditorPanel(m_bench, this), Qt::RightDockWidgetArea);
     QDockWidget *const operands =

@@ -25,10 +25,6 @@ public:
     /// closed.
     void rememberLayout();
 
-Q_SIGNALS:
-    /// Another language is wanted, for which the window has to be made anew.
-    void languageChosen(const QString &name);
-
 protected:
     void closeEvent(QCloseEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
@@ -37,6 +33,7 @@ protected:
 private:
     QDockWidget *addDock(const QString &name, const QString &title, QWidget *panel,
                          Qt::DockWidgetArea area);
+    void connectMessages();
     void createPanels();
     void createMenus();
     void addToolBarOf(const QString &name, const QString &title, const QList<QAction *> &actions);

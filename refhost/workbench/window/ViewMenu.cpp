@@ -1,10 +1,10 @@
 #include "refhost/workbench/window/ViewMenu.h"
 
 #include "refhost/workbench/look/Appearance.h"
+#include "refhost/workbench/look/Remembered.h"
 
 #include <QActionGroup>
 #include <QApplication>
-#include <QSettings>
 
 ViewMenu::ViewMenu(QWidget *parent)
     : QMenu(tr("视图(&V)"), parent)
@@ -30,7 +30,7 @@ void ViewMenu::addAppearances()
         group->addAction(action);
         connect(action, &QAction::triggered, this, [name] {
             applyAppearance(name);
-            QSettings().setValue(QStringLiteral("style"), name);
+            rememberAppearance(name);
         });
     };
     add(QStringLiteral("light"), tr("浅色(&L)"));
@@ -41,9 +41,16 @@ void ViewMenu::addLanguages()
 {
     // In their own words, so that everybody finds back.
     QMenu *const menu = addMenu(QStringLiteral("语言 / &Language"));
+    auto *const group = new QActionGroup(menu);
     const auto add = [&](const QString &name, const QString &text) {
-        connect(menu->addAction(text), &QAction::triggered, this,
-                [this, name] { Q_EMIT languageChosen(name); });
+        QAction *const action = menu->addAction(text);
+        action->setCheckable(true);
+        action->setChecked(name == rememberedLanguage());
+        group->addAction(action);
+        connect(action, &QAction::triggered, this, [this, name] {
+            rememberLanguage(name);
+            Q_EMIT languageChosen();
+        });
     };
     add(QStringLiteral("zh"), QStringLiteral("中文(&Z)"));
     add(QStringLiteral("en"), QStringLiteral("&English"));

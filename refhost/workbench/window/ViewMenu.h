@@ -2,8 +2,7 @@
 
 #include <QMenu>
 
-/// What the window shows: its panels, its look and its language. Look and language are kept in the
-/// settings.
+/// What the window shows: its panels, its look and its language. Look and language are remembered.
 class ViewMenu : public QMenu
 {
     Q_OBJECT
@@ -15,8 +14,8 @@ public:
     void addPanel(QAction *toggle);
 
 Q_SIGNALS:
-    /// Another language is wanted; the window is to be made anew.
-    void languageChosen(const QString &name);
+    /// The language of the next window is another one.
+    void languageChosen();
 
 private:
     void addAppearances();
