@@ -3,7 +3,18 @@
 #include "IOperationPlugin.h"
 #include "Operation.h"
 
+#include <QMetaProperty>
 #include <QObject>
+
+/// Gives `copy` the properties of `original`, of the same class.
+template <typename Step>
+Operation *withPropertiesOf(const Step &original, Step *copy)
+{
+    const QMetaObject &meta = Step::staticMetaObject;
+    for (int i = meta.propertyOffset(); i < meta.propertyCount(); ++i)
+        meta.property(i).write(copy, meta.property(i).read(&original));
+    return copy;
+}
 
 /// A step with editors and restrictions that the text operations do not have. It does nothing.
 class OperandsOperation : public Operation
@@ -62,7 +73,7 @@ public:
     {
         auto *const copy = new OperandsOperation;
         copy->setParent(parent);
-        return copy;
+        return withPropertiesOf(*this, copy);
     }
 
 private:
@@ -103,7 +114,7 @@ public:
     {
         auto *const copy = new NamesOperation;
         copy->setParent(parent);
-        return copy;
+        return withPropertiesOf(*this, copy);
     }
 
 private:

@@ -93,6 +93,14 @@ bool asksForNumbers(const PropertySchema &schema)
                                              namesType(schema.restriction, VarType::Double));
 }
 
+bool isAskedFor(const PropertySchema &schema, VarType type)
+{
+    if (schema.restriction.isEmpty() || namesType(schema.restriction, type))
+        return true;
+    return schema.restrictionKey == QLatin1String("varref_kind") && !holdsElements(type) &&
+           namesType(schema.restriction, VarType::String);
+}
+
 bool takesResult(const PropertySchema &schema, VarType type)
 {
     if (schema.restriction.isEmpty() || namesType(schema.restriction, type))

@@ -25,6 +25,10 @@ bool namesType(const QString &words, VarType type);
 /// Whether the property asks for a number, though maybe not for a number alone.
 bool asksForNumbers(const PropertySchema &schema);
 
+/// Whether the property is made for values of this type. A kind of "string" asks for something to
+/// be taken as text, which any single value is.
+bool isAskedFor(const PropertySchema &schema, VarType type);
+
 /// Whether a variable of this type can take what the property says is the result: one that the
 /// editor offers, and for a number any other single value.
 bool takesResult(const PropertySchema &schema, VarType type);

@@ -7,16 +7,6 @@ namespace {
 
 using MaybeFinding = std::optional<Finding>;
 
-/// Whether the property is made for values of this type. A kind of "string" asks for something to
-/// be taken as text, which any single value is.
-bool isAskedFor(const PropertySchema &schema, VarType type)
-{
-    if (schema.restriction.isEmpty() || namesType(schema.restriction, type))
-        return true;
-    return schema.restrictionKey == QLatin1String("varref_kind") && !holdsElements(type) &&
-           namesType(schema.restriction, VarType::String);
-}
-
 QString countOf(const OperandText &operand)
 {
     return quoted(QStringLiteral("$%1.Count").arg(operand.name));

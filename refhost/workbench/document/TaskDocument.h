@@ -41,6 +41,7 @@ public:
 
     /// For commands that change something else, such as a value of a run.
     QUndoStack &undoStack() { return m_undoStack; }
+    const QUndoStack &undoStack() const { return m_undoStack; }
 
     /// Undo and redo pass over what is stale, and ask for the place of what they have done.
     void undo();

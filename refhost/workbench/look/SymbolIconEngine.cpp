@@ -32,6 +32,8 @@ void SymbolIconEngine::paint(QPainter *painter, const QRect &rect, QIcon::Mode m
                              QIcon::State state)
 {
     Q_UNUSED(state)
+    if (m_svg.isEmpty())
+        return;
     QByteArray svg = m_svg;
     svg.replace("currentColor", symbolColor(mode).name().toLatin1());
     QSvgRenderer(svg).render(painter, rect);

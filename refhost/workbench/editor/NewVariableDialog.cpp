@@ -1,0 +1,79 @@
+#include "refhost/workbench/editor/NewVariableDialog.h"
+
+#include "refhost/engine/VarTypeName.h"
+#include "refhost/workbench/document/TaskDocument.h"
+#include "refhost/workbench/editor/TypeWord.h"
+#include "refhost/workbench/look/Shades.h"
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+NewVariableDialog::NewVariableDialog(const TaskDocument &document, VarType type, QWidget *parent)
+    : QDialog(parent)
+    , m_document(document)
+    , m_name(new QLineEdit(freeName(document, tr("变量")), this))
+    , m_type(new QComboBox(this))
+    , m_problem(new QLabel(this))
+    , m_buttons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this))
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setObjectName(QStringLiteral("newVariable"));
+    setWindowTitle(tr("新建变量"));
+    createWidgets(type);
+    connect(m_buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(m_buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(m_name, &QLineEdit::textChanged, this, &NewVariableDialog::check);
+    connect(this, &QDialog::accepted, this, [this] {
+        Q_EMIT wanted({m_name->text(), static_cast<VarType>(m_type->currentData().toInt()), {}});
+    });
+    m_name->selectAll();
+    check();
+}
+
+void NewVariableDialog::createWidgets(VarType type)
+{
+    m_name->setObjectName(QStringLiteral("newVariable.name"));
+    m_name->setMinimumWidth(fontMetrics().averageCharWidth() * 30);
+    m_type->setObjectName(QStringLiteral("newVariable.type"));
+    for (const QString &name : varTypeNames()) {
+        const VarType offered = varTypeFromName(name);
+        m_type->addItem(typeWord(offered), static_cast<int>(offered));
+    }
+    m_type->setCurrentIndex(m_type->findData(static_cast<int>(type)));
+    m_problem->setObjectName(QStringLiteral("newVariable.problem"));
+    QPalette colors = m_problem->palette();
+    colors.setColor(QPalette::WindowText, Shades::of(palette()).error);
+    m_problem->setPalette(colors);
+    m_buttons->button(QDialogButtonBox::Ok)->setText(tr("新建"));
+    m_buttons->button(QDialogButtonBox::Cancel)->setText(tr("取消"));
+    auto *const form = new QFormLayout(this);
+    form->addRow(tr("名称(&N)："), m_name);
+    form->addRow(tr("类型(&T)："), m_type);
+    form->addRow(QString(), m_problem);
+    form->addRow(m_buttons);
+}
+
+void NewVariableDialog::check()
+{
+    const QString name = m_name->text();
+    QString problem;
+    if (name.isEmpty())
+        problem = tr("请填写名称");
+    else if (m_document.state().variableNamed(name))
+        problem = tr("已有同名变量");
+    m_problem->setText(problem);
+    m_buttons->button(QDialogButtonBox::Ok)->setEnabled(problem.isEmpty());
+}
+
+QString freeName(const TaskDocument &document, const QString &stem)
+{
+    for (int number = 1;; ++number) {
+        const QString name = stem + QString::number(number);
+        if (!document.state().variableNamed(name))
+            return name;
+    }
+}
