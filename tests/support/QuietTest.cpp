@@ -19,6 +19,9 @@ bool isPlain(const QMessageLogContext &context)
 
 void collect(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
+    // The platform without a screen tells what it cannot do whenever a window opens.
+    if (message.startsWith(QLatin1String("This plugin does not support ")))
+        return;
     const std::lock_guard lock(linesMutex);
     if (type != QtWarningMsg)
         lines.append(QStringLiteral("not a warning: ") + message);

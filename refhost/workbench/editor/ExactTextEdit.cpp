@@ -16,6 +16,8 @@
 
 namespace {
 
+constexpr int mostLines = 5;
+
 /// The units themselves, since the clipboard of a system may change line ends and more.
 QString exactFormat()
 {
@@ -82,8 +84,12 @@ QString ExactTextEdit::text() const
 
 void ExactTextEdit::setText(const QString &text)
 {
+    if (text == this->text())
+        return;
     const QScopedValueRollback<bool> setting(m_setting, true);
     setExactText(*document(), text);
+    if (!hasFocus())
+        moveCursor(QTextCursor::Start);
 }
 
 void ExactTextEdit::insertText(const QString &text)
@@ -102,10 +108,10 @@ void ExactTextEdit::insertText(const QString &text)
     ensureCursorVisible();
 }
 
-void ExactTextEdit::setMostLines(int lines)
+void ExactTextEdit::setLocked(bool locked)
 {
-    m_mostLines = lines;
-    fitHeight();
+    setReadOnly(locked);
+    viewport()->setBackgroundRole(locked ? QPalette::Window : QPalette::Base);
 }
 
 void ExactTextEdit::setLabelLike()
@@ -222,7 +228,7 @@ void ExactTextEdit::fitHeight()
 {
     const double lines = document()->size().height() - 2 * document()->documentMargin();
     const int whole = qCeil(lines) + heightOf(0);
-    const int most = heightOf(m_mostLines);
+    const int most = isFrameless() ? QWIDGETSIZE_MAX : heightOf(mostLines);
     setVerticalScrollBarPolicy(whole > most ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
     setFixedHeight(qBound(heightOf(1), whole, most));
     updateGeometry();

@@ -14,7 +14,8 @@ public:
     /// The text, exactly as it was set, typed or pasted.
     QString text() const;
 
-    /// Another text, not as an edit of the user. Cursor and selection stay where they can.
+    /// Another text, not as an edit of the user. With the focus, cursor and selection stay where
+    /// they can; without it the beginning is shown.
     void setText(const QString &text);
 
     /// Puts `text` in place of the selection, as if it was typed.
@@ -23,13 +24,13 @@ public:
     /// Whether Shift+Enter and the menu can make another line. Texts that have some stay.
     void setLineFeedsAllowed(bool allowed) { m_lineFeedsAllowed = allowed; }
 
-    /// The most lines it grows to, five unless set.
-    void setMostLines(int lines);
-
     /// The most units it takes; a text that would be longer is handed out by `oversized` instead.
     void setMostUnits(int units) { m_mostUnits = units; }
 
-    /// Looks like a label: no frame, no background, its text can be selected only.
+    /// Whether its text can only be looked at; it shows that.
+    void setLocked(bool locked);
+
+    /// Looks like a label, and grows without end: no frame, no background, text to be selected.
     void setLabelLike();
 
     QSize sizeHint() const override;
@@ -60,7 +61,6 @@ private:
     void paintFrame();
     bool isFrameless() const { return frameStyle() == NoFrame; }
 
-    int m_mostLines = 5;
     int m_mostUnits = -1;
     bool m_lineFeedsAllowed = true;
     bool m_setting = false; ///< while the text changes by the owner

@@ -47,7 +47,7 @@ OperandEditor::OperandEditor(const PropertySchema &schema, const TaskDocument &d
 void OperandEditor::showValue(const QVariant &value)
 {
     const QString whole = value.toString();
-    m_field->setReadOnly(isOversized());
+    m_field->setLocked(isOversized());
     m_field->setText(isOversized() ? whole.left(beginningUnits) : whole);
 }
 
@@ -144,8 +144,9 @@ void OperandEditor::fillVariables()
 
 void OperandEditor::fillCharacters(QMenu &menu)
 {
-    const QStringList names{tr("制表符"),   tr("换行"),     tr("回车"),           tr("不换行空格"),
-                            tr("全角空格"), tr("零宽空格"), tr("零宽不换行空格"), tr("空字符")};
+    const QStringList names{
+        tr("制表符"),   tr("换行（Shift+Enter）"), tr("回车"),  tr("不换行空格"), tr("全角空格"),
+        tr("零宽空格"), tr("零宽不换行空格"),      tr("空字符")};
     const QVector<char16_t> characters = offeredCharacters();
     for (int i = 0; i < characters.size(); ++i) {
         const QString character{QChar(characters.at(i))};

@@ -30,7 +30,7 @@ PlainEditor::PlainEditor(const PropertySchema &schema, const TaskDocument &docum
     , m_field(new ExactTextEdit(this))
     , m_writable(writable && (isType("QString") || isType("int") || isType("double")))
 {
-    m_field->setReadOnly(!m_writable);
+    m_field->setLocked(!m_writable);
     m_field->setLineFeedsAllowed(isType("QString"));
     m_field->setMostUnits(OperandEditor::mostUnits);
     setField(m_field);
@@ -47,7 +47,7 @@ void PlainEditor::showValue(const QVariant &value)
     m_isRejected = false;
     const QString text = textOf(value);
     const bool oversized = text.size() > OperandEditor::mostUnits;
-    m_field->setReadOnly(!m_writable || oversized);
+    m_field->setLocked(!m_writable || oversized);
     // "1." and "1.0" are 1 too; what is being typed stays.
     if (valueOf(m_field->text()) != value || isType("QString"))
         m_field->setText(oversized ? text.left(beginningUnits) : text);

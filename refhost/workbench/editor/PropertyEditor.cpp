@@ -47,21 +47,15 @@ PropertyEditor::PropertyEditor(const PropertySchema &schema, const TaskDocument 
     , m_label(new QLabel(title(), this))
     , m_row(new QHBoxLayout)
     , m_column(new QVBoxLayout(this))
-    , m_remark(new RemarkLine(this))
-    , m_hint(new RemarkLine(this))
 {
     setObjectName(QStringLiteral("editor.%1.row").arg(schema.name));
     m_label->setObjectName(QStringLiteral("editor.%1.label").arg(schema.name));
     m_label->setWordWrap(true);
-    m_remark->setObjectName(QStringLiteral("editor.%1.remark").arg(schema.name));
-    m_hint->setObjectName(QStringLiteral("editor.%1.hint").arg(schema.name));
     m_column->setContentsMargins(0, 0, 0, 0);
     m_column->setSpacing(fontMetrics().height() / 4);
     m_row->setSpacing(fontMetrics().height() / 4);
     m_column->addWidget(m_label);
     m_column->addLayout(m_row);
-    m_column->addWidget(m_remark);
-    m_column->addWidget(m_hint);
 }
 
 QString PropertyEditor::title() const
@@ -106,11 +100,8 @@ void PropertyEditor::showFindings()
     m_remark->setToolTip(covered.join(QLatin1Char('\n')));
     while (m_findings.size() > shown.size())
         delete m_findings.takeLast();
-    while (m_findings.size() < shown.size()) {
-        m_findings.append(new RemarkLine(this));
-        m_findings.last()->setObjectName(QStringLiteral("editor.%1.finding").arg(m_schema.name));
-        m_column->addWidget(m_findings.last());
-    }
+    while (m_findings.size() < shown.size())
+        m_findings.append(addRemark(QStringLiteral("finding")));
     for (int i = 0; i < shown.size(); ++i) {
         const Finding &finding = shown.at(i);
         m_findings.at(i)->setRemark({kindOf(finding.severity), finding.message});
@@ -151,6 +142,17 @@ void PropertyEditor::setField(QWidget *field, bool hasOwnLabel)
     m_label->setBuddy(field);
     m_label->setVisible(!hasOwnLabel);
     m_row->insertWidget(0, field, 1);
+    // Made after the field, so that their buttons come after it by the tabulator too.
+    m_remark = addRemark(QStringLiteral("remark"));
+    m_hint = addRemark(QStringLiteral("hint"));
+}
+
+RemarkLine *PropertyEditor::addRemark(const QString &name)
+{
+    auto *const line = new RemarkLine(this);
+    line->setObjectName(QStringLiteral("editor.%1.%2").arg(m_schema.name, name));
+    m_column->addWidget(line);
+    return line;
 }
 
 void PropertyEditor::addBeside(QWidget *widget)

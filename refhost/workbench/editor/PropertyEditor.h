@@ -82,6 +82,7 @@ protected:
     virtual void leave() {}
 
 private:
+    RemarkLine *addRemark(const QString &name);
     void showFindings();
     bool filterKey(QEvent *event);
     bool showContextMenu(QWidget *field, QEvent *event);
@@ -94,7 +95,7 @@ private:
     QLabel *m_label;
     QHBoxLayout *m_row;
     QVBoxLayout *m_column;
-    RemarkLine *m_remark;
-    RemarkLine *m_hint;
+    RemarkLine *m_remark = nullptr;
+    RemarkLine *m_hint = nullptr;
     QWidget *m_field = nullptr;
 };

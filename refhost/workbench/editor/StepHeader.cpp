@@ -12,13 +12,20 @@
 
 namespace {
 
-constexpr int mostUnits = 1000;
-constexpr int mostLines = 4;
+constexpr int mostUnits = 240;
+constexpr int mostLineFeeds = 3;
 
-/// The beginning of a text that may be huge.
+/// The beginning of a text that may be huge, or of many lines.
 QString beginning(const QString &text)
 {
-    return text.size() > mostUnits ? text.left(mostUnits) + QStringLiteral("…") : text;
+    int end = -1;
+    for (int i = 0; i <= mostLineFeeds; ++i) {
+        end = text.indexOf(QLatin1Char('\n'), end + 1);
+        if (end < 0)
+            break;
+    }
+    const int size = qMin(end < 0 ? text.size() : end, mostUnits);
+    return size < text.size() ? text.left(size) + QStringLiteral("…") : text;
 }
 
 void showText(ExactTextEdit &edit, const QString &text)
@@ -51,7 +58,6 @@ StepHeader::StepHeader(QWidget *parent)
     }
     for (ExactTextEdit *const edit : {m_description, m_summary}) {
         edit->setLabelLike();
-        edit->setMostLines(mostLines);
     }
     QFont nameFont = m_name->font();
     nameFont.setBold(true);
@@ -69,7 +75,7 @@ void StepHeader::showStep(const Operation &step)
     m_type->setText(step.typeId());
     showText(*m_description, step.description());
     showText(*m_summary, step.toString());
-    m_summary->setVisible(step.toString() != step.typeName());
+    m_summary->setVisible(m_summary->text() != step.typeName());
 }
 
 void StepHeader::changeEvent(QEvent *event)
