@@ -404,7 +404,7 @@ void EditorPanelTest::tabGoesThroughTheFields()
     QTest::keyClick(m_bench->text("sourceText"), Qt::Key_Tab);
     QVERIFY(m_bench->text("appendText")->hasFocus());
     QTest::keyClick(m_bench->text("appendText"), Qt::Key_Return);
-    qInfo()<<QApplication::focusWidget(); QVERIFY(m_bench->part<QComboBox>("resultVar")->hasFocus());
+    QVERIFY(m_bench->part<QComboBox>("resultVar")->hasFocus());
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
     QVERIFY(m_bench->text("appendText")->hasFocus());
     QCOMPARE(m_bench->get("appendText").toString(), QString());

@@ -16,6 +16,7 @@ private Q_SLOTS:
     void offersVariablesThatFit();
     void choosesByKey();
     void typesAnyText();
+    void keepsTheCursorAtANameOfTheList();
     void keepsOddNames();
     void remarks_data();
     void remarks();
@@ -107,6 +108,24 @@ void EditorVariableNameTest::typesAnyText()
     QCOMPARE(m_bench->get("resultVar").toString(), QString("ebra"));
     QCOMPARE(field("resultVar")->count(), 3);
     QCOMPARE(m_bench->bench.document.undoStack().count(), 1);
+}
+
+void EditorVariableNameTest::keepsTheCursorAtANameOfTheList()
+{
+    m_bench->open("text.append", {{"abc", VarType::String, {}}, {"ab", VarType::String, {}}});
+    QLineEdit *const line = field("resultVar")->lineEdit();
+    QTest::keyClicks(line, "ac");
+    QTest::keyClick(line, Qt::Key_Left);
+    QTest::keyClicks(line, "b");
+    QCOMPARE(line->text(), QString("abc"));
+    QCOMPARE(line->cursorPosition(), 2);
+    m_bench->set("sourceText", "x");
+    QTest::keyClicks(line, "x");
+    QCOMPARE(m_bench->get("resultVar").toString(), QString("abxc"));
+    m_bench->set("resultVar", "abc");
+    line->setSelection(1, 1);
+    m_bench->set("sourceText", "y");
+    QCOMPARE(line->selectedText(), QString("b"));
 }
 
 void EditorVariableNameTest::keepsOddNames()

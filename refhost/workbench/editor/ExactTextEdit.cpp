@@ -155,6 +155,15 @@ void ExactTextEdit::changeEvent(QEvent *event)
         fitHeight();
 }
 
+/// A file that is dragged in is the window's, not a text.
+void ExactTextEdit::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (event->mimeData()->hasUrls())
+        event->ignore();
+    else
+        QTextEdit::dragEnterEvent(event);
+}
+
 void ExactTextEdit::keyPressEvent(QKeyEvent *event)
 {
     if (isEnter(*event)) {

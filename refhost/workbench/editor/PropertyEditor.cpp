@@ -37,6 +37,23 @@ QMenu *standardMenu(QWidget *field)
     return nullptr;
 }
 
+/// A tool tip that shows texts of a user as they are, and breaks long ones.
+QString toolTipOf(const QStringList &lines)
+{
+    if (lines.isEmpty())
+        return {};
+    QStringList escaped;
+    for (const QString &line : lines)
+        escaped.append(line.toHtmlEscaped());
+    return QStringLiteral("<qt>%1</qt>").arg(escaped.join(QLatin1String("<br>")));
+}
+
+/// A text for a label with a buddy, which would take "&" for a mnemonic.
+QString labelText(QString text)
+{
+    return text.replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
 } // namespace
 
 PropertyEditor::PropertyEditor(const PropertySchema &schema, const TaskDocument &document,
@@ -44,13 +61,14 @@ PropertyEditor::PropertyEditor(const PropertySchema &schema, const TaskDocument 
     : QWidget(parent)
     , m_schema(schema)
     , m_document(document)
-    , m_label(new QLabel(title(), this))
+    , m_label(new QLabel(labelText(title()), this))
     , m_row(new QHBoxLayout)
     , m_column(new QVBoxLayout(this))
 {
     setObjectName(QStringLiteral("editor.%1.row").arg(schema.name));
     m_label->setObjectName(QStringLiteral("editor.%1.label").arg(schema.name));
     m_label->setWordWrap(true);
+    m_label->setTextFormat(Qt::PlainText);
     m_column->setContentsMargins(0, 0, 0, 0);
     m_column->setSpacing(fontMetrics().height() / 4);
     m_row->setSpacing(fontMetrics().height() / 4);
@@ -97,7 +115,7 @@ void PropertyEditor::showFindings()
         else
             covered.append({finding.consequence, finding.remedy});
     }
-    m_remark->setToolTip(covered.join(QLatin1Char('\n')));
+    m_remark->setToolTip(toolTipOf(covered));
     while (m_findings.size() > shown.size())
         delete m_findings.takeLast();
     while (m_findings.size() < shown.size())
@@ -105,7 +123,7 @@ void PropertyEditor::showFindings()
     for (int i = 0; i < shown.size(); ++i) {
         const Finding &finding = shown.at(i);
         m_findings.at(i)->setRemark({kindOf(finding.severity), finding.message});
-        m_findings.at(i)->setToolTip(finding.consequence + QLatin1Char('\n') + finding.remedy);
+        m_findings.at(i)->setToolTip(toolTipOf({finding.consequence, finding.remedy}));
     }
 }
 

@@ -26,6 +26,21 @@ QString shortened(const QString &name)
     return visibleText(name, nameUnits);
 }
 
+/// Makes these the items, and touches none that is already there.
+void setItems(QComboBox &field, const QStringList &names, const QVector<int> &types)
+{
+    for (int i = 0; i < names.size(); ++i) {
+        if (i >= field.count())
+            field.addItem(names.at(i));
+        if (field.itemText(i) != names.at(i))
+            field.setItemText(i, names.at(i));
+        if (field.itemData(i, VariableItemDelegate::TypeRole) != types.at(i))
+            field.setItemData(i, types.at(i), VariableItemDelegate::TypeRole);
+    }
+    while (field.count() > names.size())
+        field.removeItem(field.count() - 1);
+}
+
 } // namespace
 
 VariableNameEditor::VariableNameEditor(const PropertySchema &schema, const TaskDocument &document,
@@ -103,11 +118,6 @@ bool VariableNameEditor::remarksOn(Mistake mistake) const
     }
 }
 
-void VariableNameEditor::openMenu()
-{
-    m_field->showPopup();
-}
-
 /// The variables that fit, in their order. The text of the field is not the list's.
 void VariableNameEditor::fillList()
 {
@@ -120,21 +130,19 @@ void VariableNameEditor::fillList()
         names.append(variable.name);
         types.append(static_cast<int>(variable.type));
     }
-    const QString shown = m_field->lineEdit()->text();
-    const int cursor = m_field->lineEdit()->cursorPosition();
-    for (int i = 0; i < names.size(); ++i) {
-        if (i >= m_field->count())
-            m_field->addItem(names.at(i));
-        m_field->setItemText(i, names.at(i));
-        m_field->setItemData(i, types.at(i), VariableItemDelegate::TypeRole);
-    }
-    while (m_field->count() > names.size())
-        m_field->removeItem(m_field->count() - 1);
+    QLineEdit &line = *m_field->lineEdit();
+    const QString shown = line.text();
+    const int cursor = line.cursorPosition();
+    const int selected = line.selectionStart();
+    const int selectedSize = line.selectionLength();
+    setItems(*m_field, names, types);
     m_field->setCurrentIndex(names.indexOf(shown));
-    if (m_field->lineEdit()->text() == shown)
-        return;
-    m_field->lineEdit()->setText(shown);
-    m_field->lineEdit()->setCursorPosition(cursor);
+    if (line.text() != shown)
+        line.setText(shown);
+    if (selected >= 0)
+        line.setSelection(selected, selectedSize);
+    else
+        line.setCursorPosition(cursor);
 }
 
 void VariableNameEditor::choose(int index)

@@ -18,7 +18,6 @@ protected:
     void showValue(const QVariant &value) override;
     Remark remarkNow() override;
     bool remarksOn(Mistake mistake) const override;
-    void openMenu() override;
 
 private:
     void createField();
