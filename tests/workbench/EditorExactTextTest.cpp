@@ -22,6 +22,7 @@ private Q_SLOTS:
     void copiesAndPastesThem();
     void followsWithoutLosingTheCursor_data();
     void followsWithoutLosingTheCursor();
+    void pairsStayWhole();
     void showsWhatIsInvisible_data();
     void showsWhatIsInvisible();
     void enterMakesALineOnlyWithShift();
@@ -152,6 +153,18 @@ void EditorExactTextTest::followsWithoutLosingTheCursor()
     edit.setText(after);
     QTEST(edit.text(), "after");
     QTEST(edit.textCursor().position(), "moved");
+}
+
+/// Two characters that share half of their surrogates: neither half becomes a mark.
+void EditorExactTextTest::pairsStayWhole()
+{
+    ExactTextEdit edit;
+    for (const char *const text : {"a\U0001f600b", "a\U0001f601b", "a\U0001f201b"}) {
+        edit.setText(text);
+        QCOMPARE(edit.toPlainText(), QString(text));
+    }
+    edit.insertText("\U0001f600");
+    QCOMPARE(edit.toPlainText(), QString("\U0001f600a\U0001f201b"));
 }
 
 void EditorExactTextTest::showsWhatIsInvisible_data()

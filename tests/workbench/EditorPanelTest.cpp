@@ -72,8 +72,11 @@ void EditorPanelTest::tellsWhatTheStepIs()
     QCOMPARE(m_bench->part<QLabel>("header.name")->text(), QString("添加文本"));
     QCOMPARE(m_bench->part<QLabel>("header.type")->text(), QString("text.append"));
     QTest::keyClicks(m_bench->text("sourceText"), "abc");
-    QVERIFY(m_bench->text("header.summary")->text().contains("abc"));
-    QVERIFY(m_bench->text("header.description")->text().contains("abc"));
+    QTRY_VERIFY(m_bench->text("header.summary")->text().contains("abc"));
+    QTRY_VERIFY(m_bench->text("header.description")->text().contains("abc"));
+    m_bench->open("editors.names");
+    QTRY_VERIFY(!m_bench->text("header.summary")->isVisible());
+    QVERIFY(!m_bench->text("header.description")->isVisible());
 }
 
 void EditorPanelTest::showsAllProperties_data()

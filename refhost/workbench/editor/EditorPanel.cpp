@@ -72,7 +72,7 @@ void EditorPanel::showCurrent()
         rebuild();
         return;
     }
-    m_header->showStep(*step->operation);
+    m_header->showStep(step->operation);
     m_form->showStep(step->id, *step->operation);
     showFindings();
 }

@@ -72,7 +72,7 @@ void NewVariableDialog::check()
 QString freeName(const TaskDocument &document, const QString &stem)
 {
     for (int number = 1;; ++number) {
-        const QString name = stem + QString::number(number);
+        QString name = stem + QString::number(number);
         if (!document.state().variableNamed(name))
             return name;
     }

@@ -6,12 +6,15 @@
 
 #include "Operation.h"
 
+#include <QElapsedTimer>
 #include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 
 namespace {
 
+constexpr int slowMilliseconds = 50;
+constexpr int delayMilliseconds = 300;
 constexpr int mostUnits = 240;
 constexpr int mostLineFeeds = 3;
 
@@ -44,6 +47,9 @@ StepHeader::StepHeader(QWidget *parent)
     , m_description(new ExactTextEdit(this))
     , m_summary(new ExactTextEdit(this))
 {
+    m_timer.setSingleShot(true);
+    m_timer.setInterval(delayMilliseconds);
+    connect(&m_timer, &QTimer::timeout, this, &StepHeader::showTexts);
     m_icon->setObjectName(QStringLiteral("editor.header.icon"));
     m_name->setObjectName(QStringLiteral("editor.header.name"));
     m_type->setObjectName(QStringLiteral("editor.header.type"));
@@ -67,15 +73,29 @@ StepHeader::StepHeader(QWidget *parent)
     showColors();
 }
 
-void StepHeader::showStep(const Operation &step)
+void StepHeader::showStep(const std::shared_ptr<const Operation> &step)
 {
     const int size = m_name->fontMetrics().height() * 2;
-    m_icon->setPixmap(operationIcon(step).pixmap(window()->windowHandle(), QSize(size, size)));
-    m_name->setText(step.typeName());
-    m_type->setText(step.typeId());
-    showText(*m_description, step.description());
-    showText(*m_summary, step.toString());
-    m_summary->setVisible(m_summary->text() != step.typeName());
+    m_icon->setPixmap(operationIcon(*step).pixmap(window()->windowHandle(), QSize(size, size)));
+    m_name->setText(step->typeName());
+    m_type->setText(step->typeId());
+    m_step = step;
+    if (m_isSlow)
+        m_timer.start();
+    else
+        showTexts();
+}
+
+void StepHeader::showTexts()
+{
+    QElapsedTimer timer;
+    timer.start();
+    showText(*m_description, m_step->description());
+    showText(*m_summary, m_step->toString());
+    if (m_summary->text() == m_step->typeName())
+        m_summary->hide();
+    m_isSlow = timer.elapsed() > slowMilliseconds;
+    m_step.reset();
 }
 
 void StepHeader::changeEvent(QEvent *event)
