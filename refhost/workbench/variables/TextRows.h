@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+/// Where the rows of a text begin when it is shown in a given width. A row ends after a line feed,
+/// or where the next character has no room; a surrogate pair is never taken apart. Only every so
+/// many rows are remembered, so that any text is divided fast and in little memory.
+///
+/// All positions and lengths are in UTF-16 code units. The text given to the functions has to be
+/// the one that was divided last.
+class TextRows
+{
+public:
+    /// Divides the text anew, into rows of at most `cells` narrow characters; wide ones, such as
+    /// Chinese, take two. What is before `from` has to be as it was, and `cells` too; 0 for all.
+    void divide(const QString &text, int cells, int from = 0);
+
+    /// At least 1: an empty text is one empty row, and so is what follows a last line feed.
+    int count() const { return m_count; }
+    /// The number of characters, a surrogate pair being one.
+    int characters() const { return m_size - m_pairs; }
+
+    /// Where a row begins. The row has to be there.
+    int start(const QString &text, int row) const;
+    /// Where the row that begins at `start` ends, behind its line feed.
+    int end(const QString &text, int start) const;
+    /// The row that has the position in it. At the seam of two rows the second.
+    int rowAt(const QString &text, int position) const;
+    /// The number of line feeds before the position.
+    int lineAt(const QString &text, int position) const;
+
+private:
+    /// What is known at the beginning of some row.
+    struct Anchor
+    {
+        int position = 0;
+        int lines = 0; ///< line feeds before it
+        int pairs = 0; ///< surrogate pairs before it
+    };
+
+    const Anchor &anchorBefore(int position) const;
+
+    std::vector<Anchor> m_anchors{Anchor()};
+    int m_cells = 1;
+    int m_count = 1;
+    int m_size = 0;
+    int m_pairs = 0;
+};

@@ -1,0 +1,118 @@
+#pragma once
+
+#include "refhost/workbench/variables/TextRows.h"
+
+#include <QAbstractScrollArea>
+#include <QString>
+#include <QTextLayout>
+#include <QTimer>
+#include <QVector>
+
+/// Edits a text of any size exactly as it is: every code unit stays what it is, those that cannot
+/// be seen have signs in their place. Only the rows in sight are laid out. Positions and lengths
+/// are in UTF-16 code units; the cursor never stands within a surrogate pair.
+class WholeTextEdit : public QAbstractScrollArea
+{
+    Q_OBJECT
+
+public:
+    explicit WholeTextEdit(QWidget *parent = nullptr);
+
+    const QString &text() const { return m_text; }
+    /// Another text, without a history.
+    void setText(const QString &text);
+    /// Replaces the whole text as an edit that can be undone.
+    void replaceText(const QString &text);
+
+    bool isReadOnly() const { return m_isReadOnly; }
+    void setReadOnly(bool readOnly);
+    /// Whether the text has been edited since `setText`.
+    bool isModified() const { return m_done != 0; }
+
+    int cursor() const { return m_cursor; }
+    /// The line the cursor is in, counted from 0, and its place within.
+    int line() const;
+    int column() const;
+    int characters() const { return m_rows.characters(); }
+
+    /// Moves the cursor, and shows it; with `keepAnchor` what is between becomes selected.
+    void setCursor(int position, bool keepAnchor = false);
+    void select(int position, int length);
+    QString selectedText() const;
+
+    /// Puts a text in the place of the selection, or at the cursor.
+    void insert(const QString &text);
+
+public Q_SLOTS:
+    void undo();
+    void redo();
+    void cut();
+    void copy();
+    void paste();
+    void selectAll();
+
+Q_SIGNALS:
+    void textChanged();
+    void cursorMoved();
+
+protected:
+    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void inputMethodEvent(QInputMethodEvent *event) override;
+    QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    /// What an edit took away and put in its place.
+    struct Edit
+    {
+        int position = 0;
+        QString removed;
+        QString inserted;
+    };
+
+    int selectionStart() const { return qMin(m_cursor, m_anchor); }
+    int selectionEnd() const { return qMax(m_cursor, m_anchor); }
+    void replace(int position, int length, const QString &inserted);
+    void apply(int position, int length, const QString &inserted);
+    bool mergesWithLast(const Edit &edit) const;
+    void erase(int from, int to);
+    bool handleShortcut(QKeyEvent *event);
+    bool handleMove(QKeyEvent *event);
+    bool handleErasure(QKeyEvent *event);
+    int vertical(int rows) const;
+    int nextPosition(int position) const;
+    int previousPosition(int position) const;
+    int nextWord(int position) const;
+    int previousWord(int position) const;
+    int positionAt(const QPoint &point) const;
+    int rowHeight() const;
+    int visibleRows() const;
+    int cellsOfWidth() const;
+    void divide();
+    void updateScrollBar();
+    void showCursor();
+    void layOut(QTextLayout &layout, int start, int end) const;
+    QVector<QTextLayout::FormatRange> formats(const QString &shown, int start) const;
+    QVector<QTextLayout::FormatRange> selectionIn(int start, int end) const;
+    QRect cursorRect() const;
+
+    QString m_text;
+    TextRows m_rows;
+    int m_cells = 0;
+    QTimer m_division; ///< of a long text, a moment after the width has changed
+    int m_cursor = 0;
+    int m_anchor = 0;
+    bool m_isReadOnly = false;
+    QString m_preedit; ///< what an input method shows at the cursor
+    QVector<Edit> m_edits;
+    int m_done = 0; ///< of the edits, those that are not undone
+};
