@@ -288,6 +288,10 @@ QVector<QTextLayout::FormatRange> WholeTextEdit::formats(const QString &shown, i
         if (shown.at(i) != m_text.at(start + i))
             ranges.append({i, 1, quiet});
     }
+    QTextCharFormat composed;
+    composed.setUnderlineStyle(QTextCharFormat::SingleUnderline);
+    if (!m_preedit.isEmpty() && m_cursor >= start && m_cursor <= start + shown.size())
+        ranges.append({m_cursor - start, m_preedit.size(), composed});
     return ranges;
 }
 
