@@ -43,7 +43,9 @@ QRect paintDetail(QPainter &painter, const QStyleOptionViewItem &option, const Q
 {
     QRect rect = inner(option);
     const QFontMetrics metrics(option.font);
-    const int width = qMin(metrics.horizontalAdvance(detail), rect.width() / 2);
+    // Other fonts may stand in for some characters, so a little more than they say.
+    const int natural = metrics.horizontalAdvance(detail) + metrics.averageCharWidth() / 2;
+    const int width = qMin(natural, rect.width() / 2);
     QRect end = rect;
     end.setLeft(rect.right() - width + 1);
     painter.setPen(isSelected(option) ? textColor(option) : Shades::of(option.palette).quiet);

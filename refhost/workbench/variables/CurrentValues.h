@@ -10,7 +10,7 @@ class CurrentValues : public QObject
     Q_OBJECT
 
 public:
-    using QObject::QObject;
+    explicit CurrentValues(QObject *parent = nullptr);
 
     /// Whether a run has begun, so that there are values apart from the start values.
     virtual bool areThere() const = 0;

@@ -95,6 +95,7 @@ bool ListGrid::commitEditing()
 QToolBar *ListGrid::createBar()
 {
     auto *const bar = new QToolBar(this);
+    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     addRowActions(*bar);
     if (m_model->isTable())
         addColumnActions(*bar);
@@ -116,6 +117,9 @@ void ListGrid::addAction(QToolBar *bar, const QString &name, const QString &symb
         if (m_table->commitEditing())
             edit();
     });
+    // Of these the picture says enough.
+    if (symbol != QLatin1String("add") && symbol != QLatin1String("table"))
+        action->setPriority(QAction::LowPriority);
     m_table->addAction(action);
     if (bar)
         bar->addAction(action);

@@ -87,7 +87,7 @@ void SearchBar::find(TextSearch::Direction direction)
                                : m_edit.cursor() - (selected > 0 ? 1 : 0);
     m_search =
         std::make_unique<TextSearch>(m_edit.text(), m_sought->text(), qMax(0, from), direction);
-    show(tr("正在查找…"));
+    tell(tr("正在查找…"));
     m_timer.start();
     advance();
 }
@@ -99,14 +99,14 @@ void SearchBar::advance()
         return;
     m_timer.stop();
     if (state == TextSearch::State::NotFound) {
-        show(tr("没有找到"));
+        tell(tr("没有找到"));
         return;
     }
-    show(m_search->hasWrapped() ? tr("已从另一端继续查找") : QString());
+    tell(m_search->hasWrapped() ? tr("已从另一端继续查找") : QString());
     m_edit.select(m_search->position(), m_sought->text().size());
 }
 
-void SearchBar::show(const QString &message)
+void SearchBar::tell(const QString &message)
 {
     m_message->setText(message);
 }

@@ -31,7 +31,7 @@ private:
     QToolButton *addButton(const QString &name, const QString &symbol, const QString &toolTip);
     void find(TextSearch::Direction direction);
     void advance();
-    void show(const QString &message);
+    void tell(const QString &message);
 
     WholeTextEdit &m_edit;
     QLineEdit *m_sought;

@@ -9,7 +9,7 @@ constexpr ushort firstWide = 0x1100;
 
 /// The end of the row that begins at `position`; counts its surrogate pairs. The innermost loop of
 /// all, so it works on bare code units.
-int rowEnd(const ushort *text, int size, int position, int cells, int &pairs)
+int rowEnd(const ushort *text, int size, int position, const TextRows::Widths &widths, int &pairs)
 {
     const int start = position;
     int used = 0;
@@ -18,8 +18,8 @@ int rowEnd(const ushort *text, int size, int position, int cells, int &pairs)
         if (unit == '\n')
             return position + 1;
         const bool isWide = unit < ' ' || unit >= firstWide;
-        used += isWide ? 2 : 1;
-        if (used > cells && position > start)
+        used += isWide ? widths.wide : widths.narrow;
+        if (used > widths.row && position > start)
             return position;
         ++position;
         if ((unit & 0xfc00) == 0xd800 && position < size && (text[position] & 0xfc00) == 0xdc00) {
@@ -37,9 +37,9 @@ bool endsInLineFeed(const QString &text, int position)
 
 } // namespace
 
-void TextRows::divide(const QString &text, int cells, int from)
+void TextRows::divide(const QString &text, const Widths &widths, int from)
 {
-    m_cells = std::max(cells, 2);
+    m_widths = widths;
     m_size = text.size();
     const auto behind = std::upper_bound(
         m_anchors.begin() + 1, m_anchors.end(), from,
@@ -49,7 +49,7 @@ void TextRows::divide(const QString &text, int cells, int from)
     m_count = static_cast<int>(m_anchors.size() - 1) * rowsBetweenAnchors + 1;
     const ushort *const units = text.utf16();
     for (;;) {
-        const int next = rowEnd(units, m_size, now.position, m_cells, now.pairs);
+        const int next = rowEnd(units, m_size, now.position, m_widths, now.pairs);
         const bool hasLineFeed = next > now.position && units[next - 1] == '\n';
         now.lines += hasLineFeed ? 1 : 0;
         now.position = next;
@@ -74,7 +74,7 @@ int TextRows::start(const QString &text, int row) const
 int TextRows::end(const QString &text, int start) const
 {
     int pairs = 0;
-    return rowEnd(text.utf16(), text.size(), start, m_cells, pairs);
+    return rowEnd(text.utf16(), text.size(), start, m_widths, pairs);
 }
 
 int TextRows::rowAt(const QString &text, int position) const

@@ -13,9 +13,25 @@
 class TextRows
 {
 public:
-    /// Divides the text anew, into rows of at most `cells` narrow characters; wide ones, such as
-    /// Chinese, take two. What is before `from` has to be as it was, and `cells` too; 0 for all.
-    void divide(const QString &text, int cells, int from = 0);
+    /// The widths of a row, of a letter and of a wide character such as a Chinese one, in whatever
+    /// unit.
+    struct Widths
+    {
+        int row = 80;
+        int narrow = 1;
+        int wide = 2;
+
+        bool operator==(const Widths &other) const
+        {
+            return row == other.row && narrow == other.narrow && wide == other.wide;
+        }
+        /// As many code units as a row has at most.
+        int mostUnits() const { return row / narrow + 2; }
+    };
+
+    /// Divides the text anew. What is before `from` has to be as it was, and so the widths; 0 for
+    /// everything.
+    void divide(const QString &text, const Widths &widths, int from = 0);
 
     /// At least 1: an empty text is one empty row, and so is what follows a last line feed.
     int count() const { return m_count; }
@@ -43,7 +59,7 @@ private:
     const Anchor &anchorBefore(int position) const;
 
     std::vector<Anchor> m_anchors{Anchor()};
-    int m_cells = 1;
+    Widths m_widths;
     int m_count = 1;
     int m_size = 0;
     int m_pairs = 0;

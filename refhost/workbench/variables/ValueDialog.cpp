@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int columns = 90; ///< in widths of "x"
+constexpr int columns = 100; ///< in widths of "x"
 constexpr int rows = 32;
 
 } // namespace

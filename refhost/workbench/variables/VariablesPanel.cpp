@@ -56,7 +56,7 @@ VariablesPanel::VariablesPanel(Workbench &bench, std::unique_ptr<CurrentValues> 
             [this](bool renames) { m_model->setRenamesInSteps(renames); });
     connect(&bench.check, &LiveCheck::updated, this, &VariablesPanel::showUnused);
     connect(&bench.place, &CurrentPlace::wanted, this, [this](const EditPlace &place) {
-        if (show(place))
+        if (goTo(place))
             m_table->setFocus();
     });
     connect(&bench.document, &TaskDocument::changed, this, &VariablesPanel::updateActions);
@@ -114,6 +114,9 @@ QAction *VariablesPanel::addAction(const QString &name, const QString &symbol, c
         if (m_table->commitEditing())
             slot();
     });
+    // In the bar the pictures of the others say enough.
+    if (!m_actions.isEmpty())
+        action->setPriority(QAction::LowPriority);
     m_actions.append(action);
     QWidget::addAction(action);
     m_table->addAction(action);
@@ -157,6 +160,7 @@ QWidget *VariablesPanel::createBar()
 {
     auto *const bar = new QToolBar(this);
     bar->setObjectName(QStringLiteral("variables.bar"));
+    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     bar->addActions(m_actions);
     const int size = fontMetrics().height() * 5 / 4;
     bar->setIconSize({size, size});
@@ -220,7 +224,7 @@ void VariablesPanel::duplicateVariables()
         state = state.withVariable(state.variableRow(id) + 1, {last, variable});
     }
     m_bench.document.change(tr("复制变量"), state, {0, {}, last});
-    show({0, {}, last});
+    goTo({0, {}, last});
 }
 
 void VariablesPanel::deleteVariables()
@@ -322,10 +326,10 @@ void VariablesPanel::insert(const QString &text, int row, const TaskVariable &va
     const VariableState state{newStateId(), variable};
     m_bench.document.change(text, m_bench.document.state().withVariable(row, state),
                             {0, {}, state.id});
-    show({0, {}, state.id});
+    goTo({0, {}, state.id});
 }
 
-bool VariablesPanel::show(const EditPlace &place)
+bool VariablesPanel::goTo(const EditPlace &place)
 {
     const int row = m_model->rowOfId(place.variable);
     if (place.variable == 0 || row < 0)

@@ -59,7 +59,7 @@ private:
     QVector<int> selectedIds() const;
     void insert(const QString &text, int row, const TaskVariable &variable);
     /// Makes the variable of the place current; whether there is one.
-    bool show(const EditPlace &place);
+    bool goTo(const EditPlace &place);
     void remark(const QString &text);
 
     Workbench &m_bench;

@@ -40,6 +40,8 @@ QChar visibleUnit(QChar unit)
     switch (unit.unicode()) {
     case '\n':
         return QChar(0x21b5);
+    case '\r':
+        return QChar(0x2190); // fonts have it, unlike the sign of its own
     case '\t':
         return QChar(0x21e5);
     case 0xa0:

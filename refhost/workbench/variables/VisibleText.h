@@ -10,7 +10,8 @@
 /// control characters, unusual spaces, marks of direction. Surrogates are not looked at.
 bool isInvisible(QChar unit);
 
-/// What is drawn for a code unit, such as "⇥" for a tabulator and "↵" for a line feed.
+/// What is drawn for a code unit, such as "⇥" for a tabulator, "↵" for a line feed and "←" for a
+/// carriage return.
 QChar visibleUnit(QChar unit);
 
 /// What is drawn for a text of the same length. A surrogate without its partner becomes U+FFFD.

@@ -192,7 +192,7 @@ void WholeTextEdit::apply(int position, int length, const QString &inserted)
 {
     m_text.replace(position, length, inserted);
     // The row before may take up what is at the beginning of this one now.
-    m_rows.divide(m_text, m_cells, qMax(0, position - m_cells - 1));
+    m_rows.divide(m_text, m_widths, qMax(0, position - m_widths.mostUnits()));
     updateScrollBar();
     Q_EMIT textChanged();
     setCursor(position + inserted.size());
@@ -310,9 +310,9 @@ QVector<QTextLayout::FormatRange> WholeTextEdit::selectionIn(int start, int end)
 void WholeTextEdit::resizeEvent(QResizeEvent *event)
 {
     QAbstractScrollArea::resizeEvent(event);
-    if (cellsOfWidth() == m_cells)
+    if (widths() == m_widths)
         updateScrollBar();
-    else if (m_text.size() < longText || m_cells == 0)
+    else if (m_text.size() < longText)
         divide();
     else
         m_division.start();
@@ -562,7 +562,7 @@ void WholeTextEdit::focusOutEvent(QFocusEvent *event)
 void WholeTextEdit::changeEvent(QEvent *event)
 {
     QAbstractScrollArea::changeEvent(event);
-    if (event->type() == QEvent::FontChange && m_cells > 0)
+    if (event->type() == QEvent::FontChange)
         divide();
 }
 
@@ -577,17 +577,19 @@ int WholeTextEdit::visibleRows() const
     return qMax(1, viewport()->height() / rowHeight());
 }
 
-int WholeTextEdit::cellsOfWidth() const
+TextRows::Widths WholeTextEdit::widths() const
 {
-    const int cell = qMax(1, fontMetrics().averageCharWidth());
-    return qMax(8, viewport()->width() / cell - 4);
+    const int narrow = qMax(1, fontMetrics().averageCharWidth());
+    const int wide = qMax(narrow, fontMetrics().horizontalAdvance(QChar(0x4e2d)));
+    // With some room for characters that are wider still.
+    return {qMax(8 * wide, viewport()->width() - 4 * narrow), narrow, wide};
 }
 
 void WholeTextEdit::divide()
 {
     m_division.stop();
-    m_cells = cellsOfWidth();
-    m_rows.divide(m_text, m_cells);
+    m_widths = widths();
+    m_rows.divide(m_text, m_widths);
     updateScrollBar();
     showCursor();
     viewport()->update();

@@ -96,7 +96,7 @@ private:
     int positionAt(const QPoint &point) const;
     int rowHeight() const;
     int visibleRows() const;
-    int cellsOfWidth() const;
+    TextRows::Widths widths() const;
     void divide();
     void updateScrollBar();
     void showCursor();
@@ -107,7 +107,7 @@ private:
 
     QString m_text;
     TextRows m_rows;
-    int m_cells = 0;
+    TextRows::Widths m_widths;
     QTimer m_division; ///< of a long text, a moment after the width has changed
     int m_cursor = 0;
     int m_anchor = 0;

@@ -1,0 +1,6 @@
+#include "refhost/workbench/variables/CurrentValues.h"
+
+CurrentValues::CurrentValues(QObject *parent)
+    : QObject(parent)
+{
+}
