@@ -3,6 +3,7 @@
 #include "refhost/workbench/look/Shades.h"
 
 #include <QDialogButtonBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -78,6 +79,15 @@ void ValueDialog::reject()
         return;
     }
     QDialog::reject();
+}
+
+void ValueDialog::keyPressEvent(QKeyEvent *event)
+{
+    // The dialog would close with it wherever it is pressed, for instance after a search.
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        event->accept();
+    else
+        QDialog::keyPressEvent(event);
 }
 
 void ValueDialog::tell(const QString &message)

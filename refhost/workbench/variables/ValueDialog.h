@@ -37,6 +37,8 @@ public:
     void tell(const QString &message);
 
 protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
     /// Where the content goes, above the message and the buttons.
     QVBoxLayout *content() { return m_content; }
 

@@ -126,7 +126,8 @@ QAction *VariablesPanel::addAction(const QString &name, const QString &symbol, c
 void VariablesPanel::createActions()
 {
     addAction(QStringLiteral("add"), QStringLiteral("add"), tr("添加变量(&A)"), Qt::Key_Insert,
-              [this] { addVariable(); });
+              [this] { addVariable(); })
+        ->setIconText(tr("添加变量"));
     m_onSelection +=
         addAction(QStringLiteral("duplicate"), QStringLiteral("duplicate"), tr("复制一份(&D)"),
                   Qt::CTRL + Qt::Key_D, [this] { duplicateVariables(); });
