@@ -43,6 +43,8 @@ public:
     /// Puts a text in the place of the selection, or at the cursor.
     void insert(const QString &text);
 
+    QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
+
 public Q_SLOTS:
     void undo();
     void redo();
@@ -65,7 +67,6 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     void inputMethodEvent(QInputMethodEvent *event) override;
-    QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     void changeEvent(QEvent *event) override;

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "tests/support/QuietTest.h"
+
+#include <QTest>
+
+/// Base of tests that open windows on a platform without a screen, which remarks on each of them.
+class VariableWindowTest : public QuietTest
+{
+protected:
+    void cleanup()
+    {
+        QStringList others = takeWarnings();
+        others.removeAll(QStringLiteral("This plugin does not support propagateSizeHints()"));
+        QuietTest::cleanup();
+        QVERIFY2(others.isEmpty(), qPrintable(others.join(QStringLiteral(" / "))));
+    }
+};
