@@ -10,8 +10,12 @@ class VariableWindowTest : public QuietTest
 protected:
     void cleanup()
     {
-        QStringList others = takeWarnings();
-        others.removeAll(QStringLiteral("This plugin does not support propagateSizeHints()"));
+        QStringList others;
+        const QStringList lines = takeWarnings();
+        for (const QString &line : lines) {
+            if (!line.startsWith(QLatin1String("This plugin does not support ")))
+                others.append(line);
+        }
         QuietTest::cleanup();
         QVERIFY2(others.isEmpty(), qPrintable(others.join(QStringLiteral(" / "))));
     }
