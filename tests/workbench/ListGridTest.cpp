@@ -288,8 +288,7 @@ void ListGridTest::changesKinds()
     auto *const kind = m_grid->findChild<QComboBox *>("grid.kind");
     QCOMPARE(kind->currentIndex(), int(CellKind::Text));
     Q_EMIT kind->activated(int(CellKind::Double));
-    QVERIFY(isSameValue(rows(), QVariantList({row({1.0, 2.5}), row({0.0}), row({3.0, 0.0})})) ||
-            isSameValue(rows(), QVariantList({row({1.0, 2.5}), row({0.0}), row({3.0, 1.0})})));
+    QVERIFY(isSameValue(rows(), QVariantList({row({1.0, 2.5}), row({0.0}), row({3.0, 1.0})})));
     QCOMPARE(kind->currentIndex(), int(CellKind::Double));
     trigger("undo");
     QVERIFY(isSameValue(rows(), QVariantList({row({"1", "2.5"}), row({"x"}), row({3, true})})));
@@ -450,6 +449,8 @@ void ListGridTest::isReadOnlyWithoutASetter()
     open(VarType::List, QVariantList{1}, true);
     QVERIFY(!startEditing(0, 0));
     QVERIFY(!m_grid->findChild<QAction *>("grid.addRow"));
+    trigger("copy");
+    QCOMPARE(QApplication::clipboard()->text(), "1");
     m_grid->reject();
     QTRY_VERIFY(!m_grid);
 }

@@ -165,13 +165,13 @@ void GridModel::removeRows(const QVector<int> &rows)
     rebuild(left, m_columns);
 }
 
-void GridModel::moveRows(const QVector<int> &rows, int by)
+bool GridModel::moveRows(const QVector<int> &rows, int by)
 {
     QVector<int> sorted = rows;
     std::sort(sorted.begin(), sorted.end());
     const bool isUp = by < 0;
     if (sorted.isEmpty() || (isUp ? sorted.first() == 0 : sorted.last() == m_rows.size() - 1))
-        return;
+        return false;
     if (!isUp)
         std::reverse(sorted.begin(), sorted.end());
     QVariantList moved = m_rows;
@@ -179,6 +179,7 @@ void GridModel::moveRows(const QVector<int> &rows, int by)
         moved.swapItemsAt(row, row + by);
     keepForUndo();
     rebuild(moved, m_columns);
+    return true;
 }
 
 void GridModel::insertColumn(int column)

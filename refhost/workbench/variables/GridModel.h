@@ -44,8 +44,9 @@ public:
     /// columns.
     void insertRow(int row);
     void removeRows(const QVector<int> &rows);
-    /// Moves the rows together by `by`, -1 or 1; none when one of them is at the end.
-    void moveRows(const QVector<int> &rows, int by);
+    /// Moves the rows together by `by`, -1 or 1. False, and none is moved, when one of them is at
+    /// the end.
+    bool moveRows(const QVector<int> &rows, int by);
     /// A new column in front of the one at `column`, in the rows that reach as far.
     void insertColumn(int column);
     void removeColumns(const QVector<int> &columns);

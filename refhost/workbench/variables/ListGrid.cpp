@@ -40,8 +40,7 @@ ListGrid::ListGrid(const QString &title, VarType type, const QVariant &value, Va
     m_table->horizontalHeader()->setDefaultSectionSize(fontMetrics().averageCharWidth() *
                                                        columnWidth);
     m_table->horizontalHeader()->setStretchLastSection(type == VarType::List);
-    if (!isReadOnly())
-        content()->addWidget(createBar());
+    content()->addWidget(createBar());
     content()->addWidget(m_table, 1);
     content()->addLayout(createFoot());
     connect(m_table, &CellTable::openWanted, this, &ListGrid::openCell);
@@ -96,11 +95,18 @@ QToolBar *ListGrid::createBar()
 {
     auto *const bar = new QToolBar(this);
     bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    addRowActions(*bar);
-    if (m_model->isTable())
-        addColumnActions(*bar);
-    bar->addSeparator();
-    addCellActions(*bar);
+    if (!isReadOnly()) {
+        addRowActions(*bar);
+        if (m_model->isTable())
+            addColumnActions(*bar);
+        bar->addSeparator();
+    }
+    addAction(bar, QStringLiteral("grid.copy"), QStringLiteral("copy"), tr("复制"),
+              QKeySequence::Copy, [this] { copy(); });
+    if (!isReadOnly())
+        addCellActions(*bar);
+    addAction(nullptr, QStringLiteral("grid.open"), QStringLiteral("edit"), tr("打开单元格…"),
+              Qt::Key_F4, [this] { openCell(m_table->currentIndex()); });
     m_table->setContextMenuPolicy(Qt::ActionsContextMenu);
     return bar;
 }
@@ -158,8 +164,6 @@ void ListGrid::addColumnActions(QToolBar &bar)
 
 void ListGrid::addCellActions(QToolBar &bar)
 {
-    addAction(&bar, QStringLiteral("grid.copy"), QStringLiteral("copy"), tr("复制"),
-              QKeySequence::Copy, [this] { copy(); });
     addAction(&bar, QStringLiteral("grid.paste"), QStringLiteral("paste"), tr("粘贴"),
               QKeySequence::Paste, [this] { paste(); });
     addAction(&bar, QStringLiteral("grid.undo"), QStringLiteral("undo"), tr("撤销"),
@@ -174,8 +178,6 @@ void ListGrid::addCellActions(QToolBar &bar)
                   m_model->redo();
                   goTo(current.row(), current.column());
               });
-    addAction(nullptr, QStringLiteral("grid.open"), QStringLiteral("edit"), tr("打开单元格…"),
-              Qt::Key_F4, [this] { openCell(m_table->currentIndex()); });
     addAction(nullptr, QStringLiteral("grid.clear"), QStringLiteral("delete"), tr("清空单元格"),
               QKeySequence::Delete,
               [this] { m_model->clear(m_table->selectionModel()->selection()); });
@@ -222,7 +224,8 @@ void ListGrid::moveRows(int by)
     const QVector<int> rows = selectedRows();
     const int column = current.column();
     const int first = current.row();
-    m_model->moveRows(rows, by);
+    if (!m_model->moveRows(rows, by))
+        return;
     goTo(first + by, column);
     QItemSelection moved;
     for (const int row : rows) {
