@@ -208,16 +208,15 @@ void OperandsPanel::goToItem(const QTreeWidgetItem *item) const
     const int step = m_bench.place.step();
     const StepRecord *const record = m_bench.run.lastRecord(step);
     const QString name = item->data(NameColumn, variableRole).toString();
-    const QVariant property = item->data(NameColumn, placeRole);
+    QVariant property = item->data(NameColumn, placeRole);
+    if (record && item->data(NameColumn, warningRole).toBool()) {
+        const QString line = item->data(NameColumn, valueRole).toString();
+        property = warningPlace(line, *record->operation, record->operands);
+    }
     if (const VariableState *const variable = m_bench.document.state().variableNamed(name))
         m_bench.place.goTo({0, {}, variable->id});
     else if (property.isValid())
         m_bench.place.goTo({step, property.toString(), 0});
-    else if (record && item->data(NameColumn, warningRole).toBool())
-        m_bench.place.goTo({step,
-                            warningPlace(item->data(NameColumn, valueRole).toString(),
-                                         *record->operation, record->operands),
-                            0});
 }
 
 void OperandsPanel::copyValue() const

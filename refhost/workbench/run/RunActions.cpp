@@ -17,7 +17,7 @@ RunActions::RunActions(Workbench &bench, QObject *parent)
     update();
 }
 
-QAction *RunActions::add(const char *name, const QString &text, const QKeySequence &shortcut)
+QAction *RunActions::add(const char *name, const QString &text, const QString &shortcut)
 {
     auto *const action = new QAction(text, this);
     action->setObjectName(QLatin1String("run.") + QLatin1String(name));
@@ -36,23 +36,23 @@ void RunActions::addSeparator()
 void RunActions::createRunning()
 {
     RunSession &run = m_bench.run;
-    m_run = add("run", tr("运行(&R)"), Qt::Key_F5);
+    m_run = add("run", tr("运行(&R)"), QStringLiteral("F5"));
     m_run->setIcon(symbolIcon(QStringLiteral("run")));
     connect(m_run, &QAction::triggered, &run, &RunSession::run);
-    m_stepOver = add("stepOver", tr("单步(&S)"), Qt::Key_F10);
+    m_stepOver = add("stepOver", tr("单步(&S)"), QStringLiteral("F10"));
     m_stepOver->setIcon(symbolIcon(QStringLiteral("step-over")));
     connect(m_stepOver, &QAction::triggered, &run, &RunSession::stepOver);
-    m_runTo = add("runTo", tr("运行到此处(&H)"), Qt::CTRL | Qt::Key_F10);
+    m_runTo = add("runTo", tr("运行到此处(&H)"), QStringLiteral("Ctrl+F10"));
     m_runTo->setIcon(symbolIcon(QStringLiteral("run-to")));
     connect(m_runTo, &QAction::triggered, this,
             [this] { m_bench.run.runTo(m_bench.place.step()); });
-    m_pause = add("pause", tr("暂停(&P)"), Qt::Key_F6);
+    m_pause = add("pause", tr("暂停(&P)"), QStringLiteral("F6"));
     m_pause->setIcon(symbolIcon(QStringLiteral("pause")));
     connect(m_pause, &QAction::triggered, &run, &RunSession::pause);
-    m_stop = add("stop", tr("停止(&T)"), Qt::SHIFT | Qt::Key_F5);
+    m_stop = add("stop", tr("停止(&T)"), QStringLiteral("Shift+F5"));
     m_stop->setIcon(symbolIcon(QStringLiteral("stop")));
     connect(m_stop, &QAction::triggered, &run, &RunSession::stop);
-    m_reset = add("reset", tr("重置(&E)"), Qt::CTRL | Qt::SHIFT | Qt::Key_F5);
+    m_reset = add("reset", tr("重置(&E)"), QStringLiteral("Ctrl+Shift+F5"));
     m_reset->setIcon(symbolIcon(QStringLiteral("reset")));
     connect(m_reset, &QAction::triggered, &run, &RunSession::reset);
 }
@@ -60,10 +60,10 @@ void RunActions::createRunning()
 void RunActions::createBreakpoints()
 {
     addSeparator();
-    m_toggle = add("breakpoint", tr("切换断点(&B)"), Qt::Key_F9);
+    m_toggle = add("breakpoint", tr("切换断点(&B)"), QStringLiteral("F9"));
     m_toggle->setIcon(symbolIcon(QStringLiteral("breakpoint")));
     connect(m_toggle, &QAction::triggered, this, &RunActions::toggleBreakpoint);
-    m_clear = add("clearBreakpoints", tr("清除所有断点(&C)"), Qt::CTRL | Qt::SHIFT | Qt::Key_F9);
+    m_clear = add("clearBreakpoints", tr("清除所有断点(&C)"), QStringLiteral("Ctrl+Shift+F9"));
     m_clear->setIcon(symbolIcon(QStringLiteral("delete")));
     connect(m_clear, &QAction::triggered, this, &RunActions::clearBreakpoints);
 }

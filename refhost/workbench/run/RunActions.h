@@ -19,7 +19,7 @@ public:
     QList<QAction *> actions() const { return m_actions; }
 
 private:
-    QAction *add(const char *name, const QString &text, const QKeySequence &shortcut);
+    QAction *add(const char *name, const QString &text, const QString &shortcut);
     void addSeparator();
     void createRunning();
     void createBreakpoints();

@@ -147,9 +147,6 @@ void RunSession::goOn(int target)
 
 void RunSession::runSlice()
 {
-    // A step that lets the window live is under way; the slice it belongs to goes on after it.
-    if (m_busy || m_state != State::Running)
-        return;
     QElapsedTimer clock;
     clock.start();
     while (m_state == State::Running && clock.elapsed() < sliceMilliseconds)

@@ -3,5 +3,5 @@
 #include <QColor>
 #include <QIcon>
 
-/// `icon` in one colour, whatever the palette is.
+/// `icon` in one colour, except where it is selected.
 QIcon shadeIcon(const QIcon &icon, const QColor &color);

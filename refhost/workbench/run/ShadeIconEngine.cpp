@@ -1,6 +1,8 @@
 #include "refhost/workbench/run/ShadeIconEngine.h"
 
+#include <QGuiApplication>
 #include <QPainter>
+#include <QPalette>
 #include <QPixmap>
 
 ShadeIconEngine::ShadeIconEngine(const QIcon &shape, const QColor &color)
@@ -20,13 +22,15 @@ void ShadeIconEngine::paint(QPainter *painter, const QRect &rect, QIcon::Mode mo
 
 QPixmap ShadeIconEngine::pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state)
 {
-    Q_UNUSED(mode)
     QPixmap picture(size);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     m_shape.paint(&painter, picture.rect(), Qt::AlignCenter, QIcon::Normal, state);
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    painter.fillRect(picture.rect(), m_color);
+    const bool isSelected = mode == QIcon::Selected;
+    const QPalette palette = QGuiApplication::palette();
+    painter.fillRect(picture.rect(),
+                     isSelected ? palette.color(QPalette::HighlightedText) : m_color);
     return picture;
 }
 

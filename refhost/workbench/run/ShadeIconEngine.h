@@ -4,7 +4,7 @@
 #include <QIcon>
 #include <QIconEngine>
 
-/// Draws the shape of another icon in one colour.
+/// Draws the shape of another icon in one colour; where it is selected, in that of selected text.
 class ShadeIconEngine : public QIconEngine
 {
 public:
