@@ -58,25 +58,29 @@ void RunChronicle::followState()
     const RunSession::State before = std::exchange(m_state, m_run.state());
     if (before == m_state)
         return;
-    if (m_state == RunSession::State::Running) {
-        if (!std::exchange(m_isUnderWay, true)) {
-            m_steps = m_warnings = 0;
-            m_nanoseconds = 0;
-            writeEvent(tr("%1 运行开始").arg(QTime::currentTime().toString(Qt::ISODate)));
-        }
+    if (m_state == RunSession::State::Running)
+        begin();
+    else
+        halt();
+}
+
+void RunChronicle::begin()
+{
+    if (std::exchange(m_isUnderWay, true))
         return;
-    }
-    const bool stepped = m_run.lastHalt() == RunSession::Halt::Stepped;
-    if (m_state == RunSession::State::Paused) {
-        if (!stepped)
-            writeEvent(haltText());
-    } else if (m_state == RunSession::State::Finished) {
-        m_isUnderWay = false;
-        writeEvent(haltText());
-    } else {
-        m_isUnderWay = false;
+    m_steps = 0;
+    m_warnings = 0;
+    m_nanoseconds = 0;
+    writeEvent(tr("%1 运行开始").arg(QTime::currentTime().toString(Qt::ISODate)));
+}
+
+void RunChronicle::halt()
+{
+    m_isUnderWay = m_state == RunSession::State::Paused;
+    if (m_state == RunSession::State::Ready)
         writeEvent(tr("已重置"));
-    }
+    else if (!m_isUnderWay || m_run.lastHalt() != RunSession::Halt::Stepped)
+        writeEvent(haltText());
     Q_EMIT written(true);
 }
 

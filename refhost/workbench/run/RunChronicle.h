@@ -23,6 +23,8 @@ Q_SIGNALS:
 
 private:
     void followState();
+    void begin();
+    void halt();
     void writeStep(const StepRecord &record);
     void writeEvent(const QString &text);
     QString haltText() const;

@@ -5,15 +5,18 @@ namespace {
 constexpr int mostRecords = 10000;
 constexpr qint64 mostBytes = 512LL * 1024 * 1024;
 
+/// What a value takes besides its content, roughly.
+constexpr qint64 elementBytes = 32;
+
 qint64 sizeOf(const QVariant &value)
 {
     if (value.userType() == QMetaType::QString)
         return value.toString().size() * qint64(sizeof(QChar));
-    qint64 size = sizeof(QVariant);
+    qint64 size = elementBytes;
     if (value.userType() == QMetaType::QVariantList) {
         const QVariantList elements = value.toList();
         for (const QVariant &element : elements)
-            size += sizeof(QVariant) + sizeOf(element);
+            size += sizeOf(element);
     }
     return size;
 }
