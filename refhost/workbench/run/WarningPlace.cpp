@@ -102,7 +102,7 @@ public:
         const auto second = isVariable ? &WarningReader::citedValue : &WarningReader::namedVariable;
         for (const auto search : {first, &WarningReader::unknownChoice, second,
                                   &WarningReader::namedLabel, &WarningReader::missingResult}) {
-            const QString name = (this->*search)();
+            QString name = (this->*search)();
             if (!name.isEmpty())
                 return name;
         }
