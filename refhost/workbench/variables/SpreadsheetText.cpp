@@ -43,7 +43,7 @@ private:
     {
         const int begin = m_next;
         if (begin < m_text.size() && m_text.at(begin) == quote) {
-            const QString quoted = quotedCell();
+            QString quoted = quotedCell();
             if (m_next == m_text.size() || endsCell(m_text.at(m_next)))
                 return quoted;
             m_next = begin; // quotes that are just part of the text

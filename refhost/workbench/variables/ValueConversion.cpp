@@ -72,7 +72,7 @@ QVariant list(const QVariant &value)
 
 QVariant table(const QVariant &value)
 {
-    const QVariant rows = isList(value) ? value : list(value);
+    QVariant rows = isList(value) ? value : list(value);
     if (!rows.isValid() || fitsType(rows, VarType::Table))
         return rows;
     QVariantList wrapped;

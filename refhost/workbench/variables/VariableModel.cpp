@@ -223,7 +223,7 @@ QVariant VariableModel::background(const QModelIndex &index) const
 QString VariableModel::nameProblem(int id, const QString &name) const
 {
     const TaskState &state = m_document.state();
-    const QString refusal = nameRefusal(state, id, name);
+    QString refusal = nameRefusal(state, id, name);
     if (!refusal.isEmpty() || !m_renamesInSteps)
         return refusal;
     const bool breaks = breaksReferences(state, state.variable(id)->variable.name, name);

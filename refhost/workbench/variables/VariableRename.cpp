@@ -157,7 +157,7 @@ QString freeVariableName(const TaskState &state, const QString &name)
     const QSet<QString> taken(names.cbegin(), names.cend());
     const QString base = withoutNumber(name);
     for (int number = 1;; ++number) {
-        const QString candidate = base + QString::number(number);
+        QString candidate = base + QString::number(number);
         if (!taken.contains(candidate))
             return candidate;
     }

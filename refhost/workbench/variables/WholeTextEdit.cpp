@@ -337,9 +337,14 @@ bool WholeTextEdit::handleShortcut(QKeyEvent *event)
         copy();
     else if (event->matches(QKeySequence::SelectAll))
         selectAll();
-    else if (m_isReadOnly)
-        return false;
-    else if (event->matches(QKeySequence::Cut))
+    else
+        return !m_isReadOnly && handleEditShortcut(event);
+    return true;
+}
+
+bool WholeTextEdit::handleEditShortcut(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::Cut))
         cut();
     else if (event->matches(QKeySequence::Paste))
         paste();

@@ -87,6 +87,7 @@ private:
     bool mergesWithLast(const Edit &edit) const;
     void erase(int from, int to);
     bool handleShortcut(QKeyEvent *event);
+    bool handleEditShortcut(QKeyEvent *event);
     bool handleMove(QKeyEvent *event);
     bool handleErasure(QKeyEvent *event);
     int vertical(int rows) const;
