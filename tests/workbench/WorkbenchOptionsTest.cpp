@@ -170,9 +170,9 @@ void WorkbenchOptionsTest::complainsInOneLine_data()
     QTest::addColumn<QString>("words");
     QTest::newRow("bad usage") << QStringList{"--nix"} << 2 << "nix";
     QTest::newRow("no such task") << QStringList{"--screenshot", "a.png", "nix.json"} << 1
-                                  << "nix.json: cannot be read";
+                                  << "nix.json：无法读取";
     QTest::newRow("no such folder")
-        << QStringList{"--screenshot", "no/a.png", m_task} << 1 << "no/a.png: cannot be written";
+        << QStringList{"--screenshot", "no/a.png", m_task} << 1 << "no/a.png：无法写入";
     QTest::newRow("no such step") << QStringList{"--screenshot", "a.png", "--step", "9", m_task}
                                   << 1 << "9";
     QTest::newRow("no such step to pause at")

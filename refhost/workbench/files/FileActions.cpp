@@ -126,6 +126,8 @@ void FileActions::setQuestions(std::unique_ptr<Questions> questions)
 
 bool FileActions::mayLeave()
 {
+    if (!m_bench.pending.commit())
+        return false;
     m_bench.document.endTyping();
     if (!m_bench.document.isModified())
         return true;
@@ -198,6 +200,8 @@ std::optional<Problem> FileActions::load(const QString &path)
 
 bool FileActions::save()
 {
+    if (!m_bench.pending.commit())
+        return false;
     if (m_path.isEmpty())
         return saveAs();
     const QByteArray present = stampOfFile(m_path);
@@ -217,6 +221,8 @@ bool FileActions::save()
 
 bool FileActions::saveAs()
 {
+    if (!m_bench.pending.commit())
+        return false;
     const QString suggested =
         m_path.isEmpty() ? QDir(folder()).filePath(name() + QLatin1Char('.') + suffixOf(m_form))
                          : m_path;

@@ -81,8 +81,7 @@ void OperandsPanel::createView()
     m_view->setItemsExpandable(false);
     m_view->setIndentation(fontMetrics().averageCharWidth());
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
-    for (const int column : {NameColumn, WrittenColumn})
-        m_view->header()->resizeSection(column, fontMetrics().averageCharWidth() * 22);
+    m_view->header()->setSectionResizeMode(QHeaderView::Stretch);
     auto *const copy =
         new QAction(symbolIcon(QStringLiteral("copy")), tr("复制完整的值(&C)"), m_view);
     copy->setObjectName(QStringLiteral("operands.copy"));

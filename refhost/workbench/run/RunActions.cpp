@@ -38,14 +38,22 @@ void RunActions::createRunning()
     RunSession &run = m_bench.run;
     m_run = add("run", tr("运行(&R)"), QStringLiteral("F5"));
     m_run->setIcon(symbolIcon(QStringLiteral("run")));
-    connect(m_run, &QAction::triggered, &run, &RunSession::run);
+    connect(m_run, &QAction::triggered, this, [this] {
+        if (m_bench.pending.commit())
+            m_bench.run.run();
+    });
     m_stepOver = add("stepOver", tr("单步(&S)"), QStringLiteral("F10"));
     m_stepOver->setIcon(symbolIcon(QStringLiteral("step-over")));
-    connect(m_stepOver, &QAction::triggered, &run, &RunSession::stepOver);
+    connect(m_stepOver, &QAction::triggered, this, [this] {
+        if (m_bench.pending.commit())
+            m_bench.run.stepOver();
+    });
     m_runTo = add("runTo", tr("运行到此处(&H)"), QStringLiteral("Ctrl+F10"));
     m_runTo->setIcon(symbolIcon(QStringLiteral("run-to")));
-    connect(m_runTo, &QAction::triggered, this,
-            [this] { m_bench.run.runTo(m_bench.place.step()); });
+    connect(m_runTo, &QAction::triggered, this, [this] {
+        if (m_bench.pending.commit())
+            m_bench.run.runTo(m_bench.place.step());
+    });
     m_pause = add("pause", tr("暂停(&P)"), QStringLiteral("F6"));
     m_pause->setIcon(symbolIcon(QStringLiteral("pause")));
     connect(m_pause, &QAction::triggered, &run, &RunSession::pause);
@@ -64,7 +72,7 @@ void RunActions::createBreakpoints()
     m_toggle->setIcon(symbolIcon(QStringLiteral("breakpoint")));
     connect(m_toggle, &QAction::triggered, this, &RunActions::toggleBreakpoint);
     m_clear = add("clearBreakpoints", tr("清除所有断点(&C)"), QStringLiteral("Ctrl+Shift+F9"));
-    m_clear->setIcon(symbolIcon(QStringLiteral("delete")));
+    m_clear->setIcon(symbolIcon(QStringLiteral("breakpoints-clear")));
     connect(m_clear, &QAction::triggered, this, &RunActions::clearBreakpoints);
 }
 

@@ -20,7 +20,6 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QDockWidget>
-#include <QDragEnterEvent>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -51,7 +50,6 @@ MainWindow::MainWindow(Workbench &bench, QWidget *parent)
 {
     setObjectName(QStringLiteral("window"));
     setWindowIcon(symbolIcon(QStringLiteral("workbench")));
-    setAcceptDrops(true);
     setStatusBar(m_status);
     createPanels();
     createMenus();
@@ -74,18 +72,6 @@ void MainWindow::closeEvent(QCloseEvent *event)
     QSettings settings(settingsFile(), QSettings::IniFormat);
     settings.setValue(geometryKey(), saveGeometry());
     settings.setValue(layoutKey(), saveState());
-}
-
-void MainWindow::dragEnterEvent(QDragEnterEvent *event)
-{
-    if (m_files->canOpenDropped(*event->mimeData()))
-        event->acceptProposedAction();
-}
-
-void MainWindow::dropEvent(QDropEvent *event)
-{
-    if (m_files->openDropped(*event->mimeData()))
-        event->acceptProposedAction();
 }
 
 void MainWindow::connectMessages()
@@ -117,6 +103,7 @@ void MainWindow::createPanels()
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     m_steps = new StepsPanel(m_bench, this);
     m_variables = new VariablesPanel(m_bench, this);
+    m_bench.pending.add(m_variables, [this] { return m_variables->commitEditing(); });
     setCentralWidget(m_steps);
     auto *const catalogPanel = new CatalogPanel(m_bench, this);
     QDockWidget *const catalog =

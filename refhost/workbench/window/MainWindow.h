@@ -27,8 +27,6 @@ public:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
-    void dragEnterEvent(QDragEnterEvent *event) override;
-    void dropEvent(QDropEvent *event) override;
 
 private:
     QDockWidget *addDock(const QString &name, const QString &title, QWidget *panel,

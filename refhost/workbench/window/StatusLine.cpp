@@ -12,6 +12,9 @@ StatusLine::StatusLine(Workbench &bench, QWidget *parent)
     , m_findings(new QLabel)
 {
     m_run->setObjectName(QStringLiteral("status.run"));
+    const int gap = fontMetrics().averageCharWidth() * 2;
+    for (QLabel *const label : {m_findings, m_size, m_run})
+        label->setContentsMargins(gap, 0, gap, 0);
     addPermanentWidget(m_findings);
     addPermanentWidget(m_size);
     addPermanentWidget(m_run);

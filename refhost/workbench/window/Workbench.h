@@ -2,6 +2,7 @@
 
 #include "refhost/workbench/document/CurrentPlace.h"
 #include "refhost/workbench/document/LiveCheck.h"
+#include "refhost/workbench/document/PendingEdits.h"
 #include "refhost/workbench/document/TaskDocument.h"
 #include "refhost/workbench/library/PluginLibrary.h"
 #include "refhost/workbench/library/StepMigrator.h"
@@ -17,6 +18,7 @@ struct Workbench
 
     PluginLibrary library;
     TaskDocument document;
+    PendingEdits pending;
     StepMigrator migrator;
     RunSession run;
     LiveCheck check;
