@@ -138,7 +138,8 @@ QString faultOf(const Message &message)
             return "empty";
         if (markersOf(form) != markersOf(message.source))
             return "other markers";
-        if (blanksAround(form) != blanksAround(message.source))
+        // What separates words has a blank in one script and none in another.
+        if (hasLetters(message.source) && blanksAround(form) != blanksAround(message.source))
             return "other blanks around it";
         if (hasMnemonic(form) != hasMnemonic(message.source))
             return "a mnemonic too many or missing";
@@ -168,6 +169,12 @@ QStringList textsOf(const QWidget &window)
             texts << model->headerData(column, Qt::Horizontal).toString();
     }
     return texts;
+}
+
+/// The languages to choose from call themselves in their own words.
+bool isOfLanguageMenu(QString text)
+{
+    return QStringList{"语言 / Language", "中文", "中文(Z)"}.contains(text.remove('&'));
 }
 
 int translatorCount()
@@ -253,7 +260,7 @@ void TranslationsTest::windowSpeaksEnglish()
     const QStringList texts = textsOf(window);
     QVERIFY(std::any_of(texts.begin(), texts.end(), hasLetters));
     for (const QString &text : texts)
-        QVERIFY2(!hasChinese(text), qPrintable(text));
+        QVERIFY2(!hasChinese(text) || isOfLanguageMenu(text), qPrintable(text));
 }
 
 void TranslationsTest::windowSpeaksChinese()

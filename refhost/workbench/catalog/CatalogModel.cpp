@@ -101,7 +101,7 @@ QStandardItem *CatalogModel::newOperation(const CatalogEntry &entry) const
     item->setData(labels.join(QLatin1Char(separator)), CatalogRole::Labels);
     QStringList lines{name, entry.typeId};
     if (!labels.isEmpty())
-        lines.append(tr("设置：%1").arg(labels.join(QStringLiteral("、"))));
+        lines.append(tr("设置：%1").arg(labels.join(tr("、"))));
     item->setToolTip(shownToolTip(lines.join(QLatin1Char('\n'))));
     return item;
 }

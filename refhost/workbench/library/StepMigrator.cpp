@@ -56,7 +56,7 @@ QStringList StepMigrator::lostSettings() const
         const QStringList lost = m_origins.value(steps.at(row).operation.get()).lost;
         if (!lost.isEmpty())
             lines.append(tr("第 %1 步：新版本没有保留 %2")
-                             .arg(QString::number(row + 1), lost.join(QStringLiteral("、"))));
+                             .arg(QString::number(row + 1), lost.join(tr("、"))));
     }
     return lines;
 }
