@@ -22,9 +22,8 @@
 
 namespace {
 
-constexpr int nameColumns = 16; ///< widths in those of "x"
+constexpr int nameColumns = 14; ///< widths in those of "x"
 constexpr int typeColumns = 12;
-constexpr int valueColumns = 30;
 
 } // namespace
 
@@ -97,8 +96,8 @@ void VariablesPanel::setUpTable()
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     header->resizeSection(VariableModel::NameColumn, unit * nameColumns);
     header->resizeSection(VariableModel::TypeColumn, unit * typeColumns);
-    header->resizeSection(VariableModel::StartColumn, unit * valueColumns);
-    header->setStretchLastSection(true);
+    for (const int column : {VariableModel::StartColumn, VariableModel::CurrentColumn})
+        header->setSectionResizeMode(column, QHeaderView::Stretch);
     connect(m_table, &CellTable::openWanted, this, &VariablesPanel::openValue);
 }
 
