@@ -1,5 +1,5 @@
 #include "refhost/workbench/run/DurationText.h"
-#include "refhost/workbench/run/ValuePreview.h"
+#include "refhost/workbench/run/ValueLine.h"
 
 #include "tests/support/ListOf.h"
 #include "tests/support/QuietTest.h"
@@ -72,7 +72,7 @@ void RunTextsTest::showsValues_data()
 void RunTextsTest::showsValues()
 {
     QFETCH(QVariant, value);
-    QTEST(ValuePreview::of(value, 10), "text");
+    QTEST(ValueLine::of(value, 10), "text");
 }
 
 void RunTextsTest::showsLargeValuesQuickly()
@@ -84,8 +84,8 @@ void RunTextsTest::showsLargeValuesQuickly()
     QElapsedTimer clock;
     clock.start();
     for (int i = 0; i < 100; ++i) {
-        QVERIFY(ValuePreview::of(text).size() < 100);
-        QVERIFY(ValuePreview::of(list).size() < 200);
+        QVERIFY(ValueLine::of(text).size() < 100);
+        QVERIFY(ValueLine::of(list).size() < 200);
     }
     QVERIFY(clock.elapsed() < 1000);
 }

@@ -4,7 +4,7 @@
 #include "refhost/workbench/look/Shades.h"
 #include "refhost/workbench/look/SymbolIcon.h"
 #include "refhost/workbench/run/DurationText.h"
-#include "refhost/workbench/run/ValuePreview.h"
+#include "refhost/workbench/run/ValueLine.h"
 #include "refhost/workbench/run/WarningPlace.h"
 #include "refhost/workbench/window/Workbench.h"
 
@@ -164,10 +164,10 @@ void OperandsPanel::addOperand(QTreeWidgetItem *section, const OperandRecord &op
         operand.role == PropertyRole::Number && !value.isValid() && operand.found.isValid();
     auto *const item = new QTreeWidgetItem(section);
     item->setText(NameColumn, operand.label.isEmpty() ? operand.property : operand.label);
-    item->setText(WrittenColumn, ValuePreview::of(operand.written));
+    item->setText(WrittenColumn, ValueLine::of(operand.written));
     item->setText(FoundColumn, isNoNumber
-                                   ? tr("%1（不是数值）").arg(ValuePreview::of(operand.found))
-                                   : ValuePreview::of(value));
+                                   ? tr("%1（不是数值）").arg(ValueLine::of(operand.found))
+                                   : ValueLine::of(value));
     for (int column = 0; column <= FoundColumn; ++column)
         item->setToolTip(column, item->text(column));
     if (operand.isReference)
@@ -181,8 +181,8 @@ void OperandsPanel::addOperand(QTreeWidgetItem *section, const OperandRecord &op
 void OperandsPanel::addWrite(QTreeWidgetItem *section, const WriteRecord &write)
 {
     auto *const item = new QTreeWidgetItem(section);
-    item->setText(NameColumn, ValuePreview::visible(write.variable));
-    item->setText(FoundColumn, ValuePreview::of(write.value));
+    item->setText(NameColumn, ValueLine::visible(write.variable));
+    item->setText(FoundColumn, ValueLine::of(write.value));
     item->setToolTip(NameColumn, item->text(NameColumn));
     item->setToolTip(FoundColumn, item->text(FoundColumn));
     item->setBackground(FoundColumn, Shades::of(palette()).written);
@@ -193,7 +193,7 @@ void OperandsPanel::addWrite(QTreeWidgetItem *section, const WriteRecord &write)
 void OperandsPanel::addWarning(QTreeWidgetItem *section, const QString &line)
 {
     constexpr int mostUnits = 500;
-    const QString shown = ValuePreview::visible(line.left(mostUnits));
+    const QString shown = ValueLine::visible(line.left(mostUnits));
     auto *const item = new QTreeWidgetItem(section, {shown});
     item->setFirstColumnSpanned(true);
     item->setToolTip(NameColumn, shown);

@@ -1,7 +1,7 @@
 #include "refhost/workbench/run/RunChronicle.h"
 
 #include "refhost/workbench/run/DurationText.h"
-#include "refhost/workbench/run/ValuePreview.h"
+#include "refhost/workbench/run/ValueLine.h"
 
 #include <QTime>
 
@@ -14,7 +14,7 @@ constexpr int mostUnits = 2000;
 /// A line that a table can show: the values in it can be of any length.
 QString shortened(const QString &line)
 {
-    const QString text = ValuePreview::visible(line.left(mostUnits));
+    const QString text = ValueLine::visible(line.left(mostUnits));
     return line.size() > mostUnits ? text + QStringLiteral("…") : text;
 }
 
@@ -22,8 +22,8 @@ QString writesText(const StepRecord &record)
 {
     QStringList texts;
     for (const WriteRecord &write : record.writes)
-        texts.append(QStringLiteral("%1 = %2").arg(ValuePreview::visible(write.variable),
-                                                   ValuePreview::of(write.value)));
+        texts.append(QStringLiteral("%1 = %2").arg(ValueLine::visible(write.variable),
+                                                   ValueLine::of(write.value)));
     return texts.join(QStringLiteral(", "));
 }
 

@@ -1,4 +1,4 @@
-#include "refhost/workbench/run/ValuePreview.h"
+#include "refhost/workbench/run/ValueLine.h"
 
 #include "refhost/engine/JsonValue.h"
 
@@ -58,7 +58,7 @@ QString quoted(const QString &text)
     QString inner = text;
     inner.replace(QLatin1Char('\\'), QLatin1String("\\\\"));
     inner.replace(QLatin1Char('"'), QLatin1String("\\\""));
-    return QLatin1Char('"') + ValuePreview::visible(inner) + QLatin1Char('"');
+    return QLatin1Char('"') + ValueLine::visible(inner) + QLatin1Char('"');
 }
 
 /// Appends the value, and no more when `line` is longer than `most`.
@@ -84,7 +84,7 @@ void append(QString &line, const QVariant &value, int most)
 
 } // namespace
 
-QString ValuePreview::of(const QVariant &value, int most)
+QString ValueLine::of(const QVariant &value, int most)
 {
     if (!value.isValid())
         return tr("（没有值）");
@@ -103,7 +103,7 @@ QString ValuePreview::of(const QVariant &value, int most)
     return tr("%1…（共 %2 项）").arg(beginning(line, most), locale.toString(value.toList().size()));
 }
 
-QString ValuePreview::visible(const QString &text)
+QString ValueLine::visible(const QString &text)
 {
     const auto isPlain = [](QChar unit) { return !unit.isSurrogate() && !isUnseen(unit); };
     if (std::all_of(text.cbegin(), text.cend(), isPlain))

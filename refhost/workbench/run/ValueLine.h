@@ -5,7 +5,7 @@
 #include <QVariant>
 
 /// Values on one line for people. Takes no longer for a large value than for a small one.
-class ValuePreview
+class ValueLine
 {
     Q_DECLARE_TR_FUNCTIONS(ValuePreview)
 
