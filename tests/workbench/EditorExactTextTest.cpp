@@ -1,5 +1,5 @@
 #include "refhost/workbench/editor/ExactTextEdit.h"
-#include "refhost/workbench/editor/SpecialCharacter.h"
+#include "refhost/workbench/values/InvisibleCharacter.h"
 #include "tests/support/QuietTest.h"
 
 #include <QClipboard>
@@ -23,8 +23,6 @@ private Q_SLOTS:
     void followsWithoutLosingTheCursor_data();
     void followsWithoutLosingTheCursor();
     void pairsStayWhole();
-    void showsWhatIsInvisible_data();
-    void showsWhatIsInvisible();
     void enterMakesALineOnlyWithShift();
     void handsOutWhatIsTooMuch();
     void growsToFiveLines();
@@ -165,29 +163,6 @@ void EditorExactTextTest::pairsStayWhole()
     }
     edit.insertText("\U0001f600");
     QCOMPARE(edit.toPlainText(), QString("\U0001f600a\U0001f201b"));
-}
-
-void EditorExactTextTest::showsWhatIsInvisible_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("visible");
-
-    QTest::newRow("plain") << "a b"
-                           << "a b";
-    QTest::newRow("lines") << "a\r\nb" << QString("a‹CR›‹↵›b");
-    QTest::newRow("no-break space") << "\u00a0" << QString("‹NBSP›");
-    QTest::newRow("unnamed") << "\u202e" << QString("‹U+202E›");
-    QTest::newRow("half a pair") << QString(QChar(0xd83d)) << QString("‹U+D83D›");
-    QTest::newRow("pair") << "\U0001f600" << QString("\U0001f600");
-    QTest::newRow("invisible pair") << "\U000e0041" << QString("‹U+E0041›");
-    QTest::newRow("long") << "abcdefghijk" << QString("abcdefghij…");
-    QTest::newRow("cut before a pair") << "abcdefghi\U0001f600" << QString("abcdefghi\U0001f600…");
-}
-
-void EditorExactTextTest::showsWhatIsInvisible()
-{
-    QFETCH(QString, text);
-    QTEST(visibleText(text, 10), "visible");
 }
 
 void EditorExactTextTest::enterMakesALineOnlyWithShift()

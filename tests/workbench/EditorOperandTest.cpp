@@ -105,15 +105,15 @@ void EditorOperandTest::remarksOnTexts_data()
         << "$rows.Columns" << Kind::Quiet << "变量 rows（表格）的 Columns = 0";
     QTest::newRow("list") << "text"
                           << "$items" << Kind::Warning
-                          << "变量 items（列表）= 2 个元素；此处需要字符串";
+                          << "变量 items（列表）= 2 项；此处需要字符串";
     QTest::newRow("list where one is asked for")
         << "list"
-        << "$items" << Kind::Quiet << "变量 items（列表）= 2 个元素";
+        << "$items" << Kind::Quiet << "变量 items（列表）= 2 项";
     QTest::newRow("of another type")
         << "exact"
-        << "$b" << Kind::Warning << "变量 b（真假值）= true；此处需要小数、字符串";
+        << "$b" << Kind::Warning << "变量 b（布尔值）= true；此处需要小数、字符串";
     QTest::newRow("unknown kind") << "foreign"
-                                  << "$items" << Kind::Quiet << "变量 items（列表）= 2 个元素";
+                                  << "$items" << Kind::Quiet << "变量 items（列表）= 2 项";
     QTest::newRow("undeclared") << "text"
                                 << "$nobody" << Kind::Error << "没有变量“nobody”";
     QTest::newRow("no member") << "text"
@@ -160,8 +160,8 @@ void EditorOperandTest::remarksOnNumbers_data()
     QTest::newRow("group separators") << "1,000" << Kind::Error << "“1,000”不是数字";
     QTest::newRow("number") << "$n" << Kind::Quiet << "变量 n（整数）= 3";
     QTest::newRow("truth") << "$b" << Kind::Warning
-                           << "变量 b（真假值）= true；true 算作 1，false 算作 0";
-    QTest::newRow("list") << "$items" << Kind::Error << "变量 items（列表）= 2 个元素；这不是数字";
+                           << "变量 b（布尔值）= true；true 算作 1，false 算作 0";
+    QTest::newRow("list") << "$items" << Kind::Error << "变量 items（列表）= 2 项；这不是数字";
     QTest::newRow("count") << "$items.Count" << Kind::Quiet << "变量 items（列表）的 Count = 2";
     QTest::newRow("a text") << "$line" << Kind::Warning
                             << "变量 line（字符串）= \"a;b\"；这不是数字";

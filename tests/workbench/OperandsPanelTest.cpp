@@ -169,7 +169,7 @@ void OperandsPanelTest::copiesAWholeValue()
     m_bench->bench.place.setStep(id);
     QVERIFY(m_bench->runs());
     settle();
-    QVERIFY(rows().first().contains("（共 16,777,216 个单元）"));
+    QVERIFY(rows().first().contains("（16,777,216 个 UTF-16 单元）"));
     m_panel->setFocus();
     m_view->setCurrentItem(item("原文本"));
     QTest::keyClick(m_view, Qt::Key_C, Qt::ControlModifier);

@@ -182,14 +182,14 @@ void StepsPanelTest::summariesAreOneLine_data()
     QTest::newRow("line feed") << "1\n2"
                                << "1↵2";
     QTest::newRow("carriage return") << "1\r\n2\r3"
-                                     << "1↵2↵3";
+                                     << "1←↵2←3";
     QTest::newRow("tabulator") << "1\t2"
                                << "1⇥2";
     QTest::newRow("control characters")
         << QString("1") + QChar(0) + QChar(0x1b) + QChar(0x7f) << "1␀␛␡";
-    QTest::newRow("paragraph") << QString("1") + QChar(0x2029) << "1↵";
+    QTest::newRow("paragraph") << QString("1") + QChar(0x2029) << "1‹PS›";
     QTest::newRow("direction") << QString("1") + QChar(0x202e) + "2"
-                               << "1\uFFFD2";
+                               << "1‹U+202E›2";
     QTest::newRow("spaces") << "1  2"
                             << "1  2";
     QTest::newRow("beyond the plane") << "1😀"

@@ -1,14 +1,13 @@
+#include "refhost/workbench/values/NumberText.h"
+#include "refhost/workbench/values/ValuePreview.h"
 #include "refhost/workbench/variables/CellKind.h"
 #include "refhost/workbench/variables/SpreadsheetText.h"
 #include "refhost/workbench/variables/ValueConversion.h"
 #include "refhost/workbench/variables/ValueInput.h"
-#include "refhost/workbench/variables/ValuePreview.h"
-#include "refhost/workbench/variables/VisibleText.h"
 
 #include "refhost/engine/ExactValue.h"
 #include "tests/support/QuietTest.h"
 
-#include <QElapsedTimer>
 #include <QTest>
 
 #include <limits>
@@ -16,17 +15,12 @@
 Q_DECLARE_METATYPE(VarType)
 Q_DECLARE_METATYPE(CellKind)
 
-/// Values as they are shown, typed, converted and copied.
+/// Values as they are typed, converted and copied.
 class VariableValueTest : public QuietTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void showsPreviews_data();
-    void showsPreviews();
-    void previewsTakeNoTime();
-    void previewsOfDeepListsEnd();
-    void showsWhatCannotBeSeen();
     void knowsWhatNeedsAViewer_data();
     void knowsWhatNeedsAViewer();
     void readsInput_data();
@@ -41,81 +35,6 @@ private Q_SLOTS:
     void readsSpreadsheets();
     void writesSpreadsheets();
 };
-
-void VariableValueTest::showsPreviews_data()
-{
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<VarType>("type");
-    QTest::addColumn<QString>("shown");
-    QTest::addColumn<bool>("isEmpty");
-
-    const QVariant none;
-    const QString longText(16000000, 'a');
-    QTest::newRow("int") << QVariant(-5) << VarType::Int << "-5" << false;
-    QTest::newRow("no int") << none << VarType::Int << "0" << true;
-    QTest::newRow("double") << QVariant(0.1) << VarType::Double << "0.1" << false;
-    QTest::newRow("minus zero") << QVariant(-0.0) << VarType::Double << "-0" << false;
-    QTest::newRow("infinity") << QVariant(std::numeric_limits<double>::infinity())
-                              << VarType::Double << "inf" << false;
-    QTest::newRow("bool") << QVariant(true) << VarType::Bool << "true" << false;
-    QTest::newRow("no bool") << none << VarType::Bool << "false" << true;
-    QTest::newRow("text") << QVariant("abc") << VarType::String << "abc" << false;
-    QTest::newRow("empty text") << QVariant("") << VarType::String << "（空）" << true;
-    QTest::newRow("no text") << none << VarType::String << "（空）" << true;
-    QTest::newRow("line breaks") << QVariant("a\tb\r\nc") << VarType::String << "a⇥b←↵c" << false;
-    QTest::newRow("long text") << QVariant(longText) << VarType::String
-                               << QString(120, 'a') + "… （16,000,000 个 UTF-16 单元）" << false;
-    QTest::newRow("pair at the cut") << QVariant(QString(119, 'a') + "😀b") << VarType::String
-                                     << QString(119, 'a') + "… （122 个 UTF-16 单元）" << false;
-    QTest::newRow("list") << QVariant(QVariantList{1, "a", 2.5, true, QVariantList{}})
-                          << VarType::List << R"([1, "a", 2.5, true, []] （5 项）)" << false;
-    QTest::newRow("no list") << none << VarType::List << "[] （0 项）" << true;
-    QTest::newRow("table") << QVariant(QVariantList{QVariantList{1, 2}, QVariantList{3}})
-                           << VarType::Table << "[[1, 2], [3]] （2 行）" << false;
-}
-
-void VariableValueTest::showsPreviews()
-{
-    QFETCH(QVariant, value);
-    QFETCH(VarType, type);
-    const ValuePreview preview = previewOf(value, type);
-    QTEST(preview.toString(), "shown");
-    QTEST(preview.isEmpty, "isEmpty");
-}
-
-void VariableValueTest::previewsTakeNoTime()
-{
-    QVariantList rows;
-    for (int i = 0; i < 1000000; ++i)
-        rows.append(QVariant(QVariantList{i}));
-    const QVariant table = rows;
-    const QVariant text = QString(16000000, '\n');
-    QElapsedTimer clock;
-    clock.start();
-    for (int i = 0; i < 1000; ++i) {
-        QVERIFY(previewOf(table, VarType::Table).toString().endsWith("… （1,000,000 行）"));
-        QVERIFY(previewOf(text, VarType::String).detail.startsWith("16,000,000"));
-    }
-    // Looking at every row or unit would take a hundred times as long.
-    QVERIFY2(clock.elapsed() < 3000, qPrintable(QString::number(clock.elapsed())));
-}
-
-void VariableValueTest::previewsOfDeepListsEnd()
-{
-    QVariantList deep;
-    for (int i = 0; i < 10000; ++i)
-        deep = QVariantList{QVariant(deep)};
-    QCOMPARE(previewOf(deep, VarType::List, 10).text, QString(10, '[') + "…");
-}
-
-void VariableValueTest::showsWhatCannotBeSeen()
-{
-    const QString text = QString("a b") + QChar(0) + QChar(0x1b) + QChar(0xa0) + QChar(0x7f) +
-                         QChar(0xd800) + "😀" + QChar(0xdc00) + QChar(0x200b) + QChar(0xfeff);
-    const QString shown = visibleText(text);
-    QCOMPARE(shown.size(), text.size());
-    QCOMPARE(shown, QString("a b␀␛⍽␡\ufffd😀\ufffd▯▯"));
-}
 
 void VariableValueTest::knowsWhatNeedsAViewer_data()
 {

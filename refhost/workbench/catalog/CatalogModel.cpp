@@ -4,8 +4,9 @@
 #include "refhost/workbench/catalog/OperationMime.h"
 #include "refhost/workbench/library/PluginLibrary.h"
 #include "refhost/workbench/look/OperationIcon.h"
-#include "refhost/workbench/look/ShownText.h"
+#include "refhost/workbench/look/ShownToolTip.h"
 #include "refhost/workbench/look/SymbolIcon.h"
+#include "refhost/workbench/values/VisibleText.h"
 
 #include "Operation.h"
 
@@ -80,7 +81,7 @@ void CatalogModel::fill()
 
 QStandardItem *CatalogModel::newGroup(const QString &name) const
 {
-    auto *const group = new QStandardItem(shownLine(name, textLimit));
+    auto *const group = new QStandardItem(visibleText(name, textLimit));
     group->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
     group->setData(name, CatalogRole::Names);
     return group;
@@ -89,13 +90,13 @@ QStandardItem *CatalogModel::newGroup(const QString &name) const
 QStandardItem *CatalogModel::newOperation(const CatalogEntry &entry) const
 {
     const Operation &operation = *entry.prototype;
-    const QString name = shownLine(operation.typeName(), textLimit);
+    const QString name = visibleText(operation.typeName(), textLimit);
     const QStringList labels = labelsOf(operation);
     auto *const item = new QStandardItem(operationIcon(operation), name);
     item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsDragEnabled |
                    Qt::ItemNeverHasChildren);
     item->setData(entry.typeId, CatalogRole::TypeId);
-    item->setData(shownLine(entry.typeId, textLimit), CatalogRole::Second);
+    item->setData(visibleText(entry.typeId, textLimit), CatalogRole::Second);
     item->setData(QStringList{name, entry.typeId, entry.root}.join(QLatin1Char(separator)),
                   CatalogRole::Names);
     item->setData(labels.join(QLatin1Char(separator)), CatalogRole::Labels);
@@ -114,10 +115,10 @@ void CatalogModel::addFailures(const QList<Problem> &failures)
     parent->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
     for (const Problem &failure : failures) {
         const QString name = QFileInfo(failure.file).fileName();
-        auto *const item = new QStandardItem(shownLine(name, textLimit));
+        auto *const item = new QStandardItem(visibleText(name, textLimit));
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren);
         const QString reason = failure.file + QLatin1Char('\n') + failure.message;
-        item->setData(shownLine(failure.message, textLimit), CatalogRole::Second);
+        item->setData(visibleText(failure.message, textLimit), CatalogRole::Second);
         item->setData(reason, CatalogRole::Reason);
         item->setData(reason, CatalogRole::Names);
         item->setToolTip(shownToolTip(reason));

@@ -1,7 +1,7 @@
 #include "refhost/workbench/editor/ExactText.h"
 
-#include "refhost/workbench/editor/SpecialCharacter.h"
 #include "refhost/workbench/editor/SpecialCharacterObject.h"
+#include "refhost/workbench/values/InvisibleCharacter.h"
 
 #include <QTextBlock>
 #include <QTextCursor>
@@ -109,7 +109,7 @@ void insertExactText(QTextCursor &cursor, const QString &text)
     cursor.removeSelectedText();
     const QChar lineFeed = QLatin1Char('\n');
     for (int i = 0; i < text.size();) {
-        const int size = text.at(i) == lineFeed ? 0 : specialSize(text, i);
+        const int size = text.at(i) == lineFeed ? 0 : invisibleSize(text, i);
         if (size > 0) {
             cursor.insertText(QString(QChar(QChar::ObjectReplacementCharacter)),
                               SpecialCharacterObject::formatOf(text.mid(i, size)));
@@ -117,7 +117,7 @@ void insertExactText(QTextCursor &cursor, const QString &text)
             continue;
         }
         int end = i;
-        while (end < text.size() && (text.at(end) == lineFeed || specialSize(text, end) == 0))
+        while (end < text.size() && (text.at(end) == lineFeed || invisibleSize(text, end) == 0))
             end += text.at(end).isHighSurrogate() ? 2 : 1;
         cursor.insertText(text.mid(i, end - i), QTextCharFormat());
         i = end;

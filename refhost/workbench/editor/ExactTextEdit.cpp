@@ -2,8 +2,8 @@
 
 #include "refhost/workbench/editor/ExactText.h"
 #include "refhost/workbench/editor/InvisibleMarks.h"
-#include "refhost/workbench/editor/SpecialCharacter.h"
 #include "refhost/workbench/editor/SpecialCharacterObject.h"
+#include "refhost/workbench/values/InvisibleCharacter.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QMimeData>
@@ -47,7 +47,7 @@ bool isEnter(const QKeyEvent &event)
 bool hasSpecial(const QString &text)
 {
     for (int i = 0; i < text.size(); i += text.at(i).isHighSurrogate() ? 2 : 1) {
-        if (specialSize(text, i) > 0)
+        if (invisibleSize(text, i) > 0)
             return true;
     }
     return false;

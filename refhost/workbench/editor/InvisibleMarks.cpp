@@ -1,7 +1,7 @@
 #include "refhost/workbench/editor/InvisibleMarks.h"
 
-#include "refhost/workbench/editor/SpecialCharacter.h"
 #include "refhost/workbench/look/Shades.h"
+#include "refhost/workbench/values/InvisibleCharacter.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QFontMetricsF>
@@ -47,7 +47,7 @@ void paintLineFeed(QPainter &painter, const QTextBlock &block, const QTextLine &
     const double x = line.cursorToX(line.textStart() + line.textLength());
     painter.drawText(
         QPointF(origin.x() + x + line.height() / 8, origin.y() + line.y() + line.ascent()),
-        specialMark(QStringLiteral("\n")));
+        invisibleSign(QStringLiteral("\n")));
 }
 
 void paintBlock(QPainter &painter, const QTextBlock &block, const QPointF &origin,

@@ -2,8 +2,8 @@
 
 #include "refhost/engine/VarTypeName.h"
 #include "refhost/workbench/document/TaskDocument.h"
-#include "refhost/workbench/editor/TypeWord.h"
 #include "refhost/workbench/look/Shades.h"
+#include "refhost/workbench/values/TypeWord.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>

@@ -4,7 +4,7 @@
 #include "refhost/workbench/document/TaskDocument.h"
 #include "refhost/workbench/editor/ExactTextEdit.h"
 #include "refhost/workbench/editor/ReferenceFacts.h"
-#include "refhost/workbench/editor/SpecialCharacter.h"
+#include "refhost/workbench/values/VisibleText.h"
 
 #include <cmath>
 #include <limits>

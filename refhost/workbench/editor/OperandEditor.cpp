@@ -4,12 +4,13 @@
 #include "refhost/workbench/editor/ExactTextEdit.h"
 #include "refhost/workbench/editor/NewVariableDialog.h"
 #include "refhost/workbench/editor/ReferenceFacts.h"
-#include "refhost/workbench/editor/SpecialCharacter.h"
-#include "refhost/workbench/editor/TypeWord.h"
 #include "refhost/workbench/look/Shades.h"
 #include "refhost/workbench/look/SymbolIcon.h"
+#include "refhost/workbench/values/InvisibleCharacter.h"
+#include "refhost/workbench/values/NumberText.h"
+#include "refhost/workbench/values/TypeWord.h"
+#include "refhost/workbench/values/VisibleText.h"
 
-#include <QLocale>
 #include <QMenu>
 #include <QToolButton>
 
@@ -63,7 +64,7 @@ Remark OperandEditor::remarkNow()
         m_field->setPalette({});
         return {Remark::Kind::Note,
                 tr("这段文本有 %1 个单元，这里只显示开头，不能直接编辑。")
-                    .arg(QLocale().toString(text().size())),
+                    .arg(groupedNumber(text().size())),
                 tr("清空"), [this] { Q_EMIT chosen(QString()); }};
     }
     if (!operand.isReference) {
@@ -144,14 +145,18 @@ void OperandEditor::fillVariables()
 
 void OperandEditor::fillCharacters(QMenu &menu)
 {
-    const QStringList names{
-        tr("制表符"),   tr("换行（Shift+Enter）"), tr("回车"),  tr("不换行空格"), tr("全角空格"),
-        tr("零宽空格"), tr("零宽不换行空格"),      tr("空字符")};
-    const QVector<char16_t> characters = offeredCharacters();
-    for (int i = 0; i < characters.size(); ++i) {
-        const QString character{QChar(characters.at(i))};
+    const QVector<QPair<char16_t, QString>> characters{{u'\t', tr("制表符")},
+                                                       {u'\n', tr("换行（Shift+Enter）")},
+                                                       {u'\r', tr("回车")},
+                                                       {u'\u00a0', tr("不换行空格")},
+                                                       {u'\u3000', tr("全角空格")},
+                                                       {u'\u200b', tr("零宽空格")},
+                                                       {u'\ufeff', tr("零宽不换行空格")},
+                                                       {u'\0', tr("空字符")}};
+    for (const auto &offered : characters) {
+        const QString character{QChar(offered.first)};
         QAction *const action =
-            menu.addAction(names.value(i) + QLatin1Char('\t') + specialMark(character));
+            menu.addAction(offered.second + QLatin1Char('\t') + invisibleSign(character));
         action->setData(character);
         connect(action, &QAction::triggered, this,
                 [this, character] { m_field->insertText(character); });

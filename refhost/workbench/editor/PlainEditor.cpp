@@ -3,8 +3,7 @@
 #include "refhost/engine/OperandText.h"
 #include "refhost/workbench/editor/ExactTextEdit.h"
 #include "refhost/workbench/editor/OperandEditor.h"
-
-#include <QLocale>
+#include "refhost/workbench/values/NumberText.h"
 
 namespace {
 
@@ -13,7 +12,7 @@ constexpr int beginningUnits = 1000;
 QString textOf(const QVariant &value)
 {
     if (value.userType() == QMetaType::Double)
-        return QString::number(value.toDouble(), 'g', QLocale::FloatingPointShortest);
+        return numberText(value.toDouble());
     if (value.userType() == QMetaType::QString)
         return value.toString();
     const QString text = textOfValue(value);
@@ -62,7 +61,7 @@ Remark PlainEditor::remarkNow()
     if (text.size() > OperandEditor::mostUnits) {
         return {Remark::Kind::Note,
                 tr("这段文本有 %1 个单元，这里只显示开头，不能直接编辑。")
-                    .arg(QLocale().toString(text.size())),
+                    .arg(groupedNumber(text.size())),
                 tr("清空"), [this] { Q_EMIT chosen(QString()); }};
     }
     if (!m_isRejected)

@@ -2,8 +2,9 @@
 
 #include "refhost/engine/check/TaskFacts.h"
 #include "refhost/workbench/document/TaskState.h"
-#include "refhost/workbench/editor/SpecialCharacter.h"
-#include "refhost/workbench/editor/TypeWord.h"
+#include "refhost/workbench/values/TypeWord.h"
+#include "refhost/workbench/values/ValuePreview.h"
+#include "refhost/workbench/values/VisibleText.h"
 
 #include <QCoreApplication>
 
@@ -29,6 +30,14 @@ Remark remarkOnMissingMember(const OperandText &operand, const TaskVariable &var
             QCoreApplication::translate("ReferenceFacts", "变量 %1（%2）没有成员“%3”")
                 .arg(visibleText(operand.name, nameUnits), typeWord(variable.type),
                      visibleText(operand.path, nameUnits))};
+}
+
+/// What a reference finds; of lists and tables how much there is in them.
+QString foundText(const ReferenceFacts &facts)
+{
+    if (holdsElements(facts.type))
+        return previewOf(facts.value, facts.type).detail;
+    return valueLine(facts.value.isValid() ? facts.value : emptyValue(facts.type));
 }
 
 } // namespace
@@ -80,10 +89,10 @@ Remark remarkOnReference(const OperandText &operand, const ReferenceFacts &facts
     if (operand.path.isEmpty()) {
         return {Remark::Kind::Quiet,
                 QCoreApplication::translate("ReferenceFacts", "变量 %1（%2）= %3")
-                    .arg(name, typeWord(facts.type), valuePreview(facts.value, facts.type))};
+                    .arg(name, typeWord(facts.type), foundText(facts))};
     }
     return {Remark::Kind::Quiet,
             QCoreApplication::translate("ReferenceFacts", "变量 %1（%2）的 %3 = %4")
                 .arg(name, typeWord(facts.variable.type), visibleText(operand.path, nameUnits),
-                     valuePreview(facts.value, facts.type))};
+                     foundText(facts))};
 }

@@ -1,7 +1,7 @@
 #include "refhost/workbench/editor/SpecialCharacterObject.h"
 
-#include "refhost/workbench/editor/SpecialCharacter.h"
 #include "refhost/workbench/look/Shades.h"
+#include "refhost/workbench/values/InvisibleCharacter.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -39,7 +39,7 @@ QSizeF SpecialCharacterObject::intrinsicSize(QTextDocument *document, int positi
     Q_UNUSED(document)
     Q_UNUSED(position)
     const QFontMetricsF metrics(markFont());
-    const QString mark = specialMark(characterOf(format));
+    const QString mark = invisibleSign(characterOf(format));
     return {metrics.horizontalAdvance(mark) + metrics.averageCharWidth() * 1.5,
             QFontMetricsF(m_editor->font()).ascent()};
 }
@@ -61,7 +61,7 @@ void SpecialCharacterObject::drawObject(QPainter *painter, const QRectF &rect,
     painter->setFont(markFont());
     painter->setPen(color);
     painter->drawRoundedRect(frame, gap * 2, gap * 2);
-    painter->drawText(frame, Qt::AlignCenter, specialMark(characterOf(format)));
+    painter->drawText(frame, Qt::AlignCenter, invisibleSign(characterOf(format)));
     painter->restore();
 }
 

@@ -1,8 +1,8 @@
 #include "refhost/workbench/editor/TextOperandEditor.h"
 
 #include "refhost/engine/check/TaskFacts.h"
+#include "refhost/workbench/editor/PropertyTypes.h"
 #include "refhost/workbench/editor/ReferenceFacts.h"
-#include "refhost/workbench/editor/TypeWord.h"
 
 bool TextOperandEditor::isWelcome(VarType type) const
 {

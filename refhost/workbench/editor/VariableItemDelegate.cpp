@@ -1,8 +1,8 @@
 #include "refhost/workbench/editor/VariableItemDelegate.h"
 
-#include "refhost/workbench/editor/SpecialCharacter.h"
-#include "refhost/workbench/editor/TypeWord.h"
 #include "refhost/workbench/look/Shades.h"
+#include "refhost/workbench/values/TypeWord.h"
+#include "refhost/workbench/values/VisibleText.h"
 
 #include <QPainter>
 

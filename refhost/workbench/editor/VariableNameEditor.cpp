@@ -5,9 +5,10 @@
 #include "refhost/engine/check/TaskFacts.h"
 #include "refhost/workbench/document/TaskDocument.h"
 #include "refhost/workbench/editor/NewVariableDialog.h"
-#include "refhost/workbench/editor/SpecialCharacter.h"
-#include "refhost/workbench/editor/TypeWord.h"
+#include "refhost/workbench/editor/PropertyTypes.h"
 #include "refhost/workbench/editor/VariableItemDelegate.h"
+#include "refhost/workbench/values/TypeWord.h"
+#include "refhost/workbench/values/VisibleText.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>

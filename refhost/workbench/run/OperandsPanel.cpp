@@ -4,8 +4,9 @@
 #include "refhost/workbench/look/Shades.h"
 #include "refhost/workbench/look/SymbolIcon.h"
 #include "refhost/workbench/run/DurationText.h"
-#include "refhost/workbench/run/ValueLine.h"
 #include "refhost/workbench/run/WarningPlace.h"
+#include "refhost/workbench/values/ValuePreview.h"
+#include "refhost/workbench/values/VisibleText.h"
 #include "refhost/workbench/window/Workbench.h"
 
 #include "Operation.h"
@@ -25,6 +26,7 @@ namespace {
 
 enum Column { NameColumn, WrittenColumn, FoundColumn };
 
+constexpr int mostUnits = 500;
 constexpr int valueRole = Qt::UserRole;        ///< the whole value
 constexpr int placeRole = Qt::UserRole + 1;    ///< the property it belongs to
 constexpr int variableRole = Qt::UserRole + 2; ///< the variable it belongs to
@@ -164,10 +166,9 @@ void OperandsPanel::addOperand(QTreeWidgetItem *section, const OperandRecord &op
         operand.role == PropertyRole::Number && !value.isValid() && operand.found.isValid();
     auto *const item = new QTreeWidgetItem(section);
     item->setText(NameColumn, operand.label.isEmpty() ? operand.property : operand.label);
-    item->setText(WrittenColumn, ValueLine::of(operand.written));
-    item->setText(FoundColumn, isNoNumber
-                                   ? tr("%1（不是数值）").arg(ValueLine::of(operand.found))
-                                   : ValueLine::of(value));
+    item->setText(WrittenColumn, valueLine(operand.written));
+    item->setText(FoundColumn, isNoNumber ? tr("%1（不是数值）").arg(valueLine(operand.found))
+                                          : valueLine(value));
     for (int column = 0; column <= FoundColumn; ++column)
         item->setToolTip(column, item->text(column));
     if (operand.isReference)
@@ -181,8 +182,8 @@ void OperandsPanel::addOperand(QTreeWidgetItem *section, const OperandRecord &op
 void OperandsPanel::addWrite(QTreeWidgetItem *section, const WriteRecord &write)
 {
     auto *const item = new QTreeWidgetItem(section);
-    item->setText(NameColumn, ValueLine::visible(write.variable));
-    item->setText(FoundColumn, ValueLine::of(write.value));
+    item->setText(NameColumn, visibleText(write.variable, mostUnits));
+    item->setText(FoundColumn, valueLine(write.value));
     item->setToolTip(NameColumn, item->text(NameColumn));
     item->setToolTip(FoundColumn, item->text(FoundColumn));
     item->setBackground(FoundColumn, Shades::of(palette()).written);
@@ -192,8 +193,7 @@ void OperandsPanel::addWrite(QTreeWidgetItem *section, const WriteRecord &write)
 
 void OperandsPanel::addWarning(QTreeWidgetItem *section, const QString &line)
 {
-    constexpr int mostUnits = 500;
-    const QString shown = ValueLine::visible(line.left(mostUnits));
+    const QString shown = visibleText(line, mostUnits);
     auto *const item = new QTreeWidgetItem(section, {shown});
     item->setFirstColumnSpanned(true);
     item->setToolTip(NameColumn, shown);

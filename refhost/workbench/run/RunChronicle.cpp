@@ -1,7 +1,8 @@
 #include "refhost/workbench/run/RunChronicle.h"
 
 #include "refhost/workbench/run/DurationText.h"
-#include "refhost/workbench/run/ValueLine.h"
+#include "refhost/workbench/values/ValuePreview.h"
+#include "refhost/workbench/values/VisibleText.h"
 
 #include <QTime>
 
@@ -9,21 +10,14 @@
 
 namespace {
 
-constexpr int mostUnits = 2000;
-
-/// A line that a table can show: the values in it can be of any length.
-QString shortened(const QString &line)
-{
-    const QString text = ValueLine::visible(line.left(mostUnits));
-    return line.size() > mostUnits ? text + QStringLiteral("…") : text;
-}
+constexpr int mostUnits = 2000; ///< of a line: the values in it can be of any length
 
 QString writesText(const StepRecord &record)
 {
     QStringList texts;
     for (const WriteRecord &write : record.writes)
-        texts.append(QStringLiteral("%1 = %2").arg(ValueLine::visible(write.variable),
-                                                   ValueLine::of(write.value)));
+        texts.append(QStringLiteral("%1 = %2").arg(visibleText(write.variable, mostUnits),
+                                                   valueLine(write.value)));
     return texts.join(QStringLiteral(", "));
 }
 
@@ -91,14 +85,14 @@ void RunChronicle::writeStep(const StepRecord &record)
     m_nanoseconds += record.nanoseconds;
     LogLine line = lineOf(record);
     line.kind = LogLine::Kind::Step;
-    line.text = shortened(record.summary);
+    line.text = visibleText(record.summary, mostUnits);
     line.writes = writesText(record);
     line.nanoseconds = record.nanoseconds;
     m_lines.append(line);
     for (int i = 0; i < record.warnings.size(); ++i) {
         LogLine below = lineOf(record);
         below.kind = LogLine::Kind::Warning;
-        below.text = shortened(record.warnings.at(i));
+        below.text = visibleText(record.warnings.at(i), mostUnits);
         below.warning = i;
         m_lines.append(below);
     }

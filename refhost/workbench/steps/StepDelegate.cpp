@@ -2,7 +2,7 @@
 
 #include "refhost/engine/check/Finding.h"
 #include "refhost/workbench/look/Shades.h"
-#include "refhost/workbench/look/ShownText.h"
+#include "refhost/workbench/look/ShownToolTip.h"
 #include "refhost/workbench/look/SymbolPixmap.h"
 #include "refhost/workbench/steps/StepLayout.h"
 #include "refhost/workbench/steps/StepModel.h"

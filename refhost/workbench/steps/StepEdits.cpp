@@ -1,8 +1,8 @@
 #include "refhost/workbench/steps/StepEdits.h"
 
 #include "refhost/engine/OperationSchema.h"
-#include "refhost/workbench/look/ShownText.h"
 #include "refhost/workbench/steps/TaskClipboard.h"
+#include "refhost/workbench/values/VisibleText.h"
 #include "refhost/workbench/window/Workbench.h"
 
 #include "Operation.h"
@@ -138,7 +138,7 @@ std::optional<QString> StepEdits::paste(const QMimeData &mime, int row) const
     Result<Task> pasted = taskFromMime(mime, m_bench.library.catalog());
     if (!pasted) {
         return tr("这段文本不是任务，无法粘贴：%1")
-            .arg(shownLine(pasted.problem().toString(), messageLimit));
+            .arg(visibleText(pasted.problem().toString(), messageLimit));
     }
     if (pasted.value().steps.empty())
         return tr("没有可以粘贴的步骤。");

@@ -1,11 +1,12 @@
 #include "refhost/workbench/steps/StepModel.h"
 
 #include "refhost/workbench/look/OperationIcon.h"
-#include "refhost/workbench/look/ShownText.h"
+#include "refhost/workbench/look/ShownToolTip.h"
 #include "refhost/workbench/run/DurationText.h"
 #include "refhost/workbench/steps/StepDrag.h"
 #include "refhost/workbench/steps/StepEdits.h"
 #include "refhost/workbench/steps/TaskClipboard.h"
+#include "refhost/workbench/values/VisibleText.h"
 #include "refhost/workbench/window/Workbench.h"
 
 #include "Operation.h"
@@ -79,7 +80,7 @@ QVariant StepModel::shown(const StepState &step, int row, int role) const
 {
     switch (role) {
     case Qt::DisplayRole:
-        return shownLine(step.operation->toString(), summaryLimit);
+        return visibleText(step.operation->toString(), summaryLimit);
     case Qt::DecorationRole:
         return icon(step);
     case Qt::ToolTipRole:
@@ -188,7 +189,7 @@ QIcon StepModel::icon(const StepState &step) const
 QString StepModel::accessibleText(const StepState &step, int row) const
 {
     QStringList parts{tr("第 %1 步").arg(row + 1),
-                      shownLine(step.operation->toString(), summaryLimit)};
+                      visibleText(step.operation->toString(), summaryLimit)};
     if (step.breakpoint)
         parts.append(tr("断点"));
     if (marked(step, StepRole::Next).toBool())

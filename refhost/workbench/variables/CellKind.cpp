@@ -1,6 +1,8 @@
 #include "refhost/workbench/variables/CellKind.h"
 
 #include "refhost/engine/JsonValue.h"
+#include "refhost/workbench/values/TypeWord.h"
+#include "refhost/workbench/values/ValuePreview.h"
 #include "refhost/workbench/variables/ValueConversion.h"
 #include "refhost/workbench/variables/ValueInput.h"
 
@@ -77,7 +79,7 @@ QStringList cellKindLabels()
     QStringList labels;
     for (const CellKind kind :
          {CellKind::Text, CellKind::Integer, CellKind::Double, CellKind::Bool, CellKind::List})
-        labels.append(typeLabel(typeOf(kind)));
+        labels.append(typeWord(typeOf(kind)));
     return labels;
 }
 

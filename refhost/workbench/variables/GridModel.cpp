@@ -2,9 +2,9 @@
 
 #include "refhost/engine/ValueType.h"
 #include "refhost/workbench/look/Shades.h"
+#include "refhost/workbench/values/NumberText.h"
+#include "refhost/workbench/values/ValuePreview.h"
 #include "refhost/workbench/variables/ValueInput.h"
-#include "refhost/workbench/variables/ValuePreview.h"
-#include "refhost/workbench/variables/VisibleText.h"
 
 #include <QBrush>
 #include <QGuiApplication>

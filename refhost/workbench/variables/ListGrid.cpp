@@ -1,11 +1,11 @@
 #include "refhost/workbench/variables/ListGrid.h"
 
 #include "refhost/workbench/look/SymbolIcon.h"
+#include "refhost/workbench/values/NumberText.h"
 #include "refhost/workbench/variables/CellTable.h"
 #include "refhost/workbench/variables/GridModel.h"
 #include "refhost/workbench/variables/SpreadsheetText.h"
 #include "refhost/workbench/variables/TextViewer.h"
-#include "refhost/workbench/variables/VisibleText.h"
 
 #include <QAction>
 #include <QClipboard>

@@ -1,9 +1,9 @@
 #include "refhost/workbench/variables/TextViewer.h"
 
 #include "refhost/workbench/look/SymbolIcon.h"
+#include "refhost/workbench/values/NumberText.h"
 #include "refhost/workbench/variables/SearchBar.h"
 #include "refhost/workbench/variables/TextFile.h"
-#include "refhost/workbench/variables/VisibleText.h"
 #include "refhost/workbench/variables/WholeTextEdit.h"
 
 #include <QAction>

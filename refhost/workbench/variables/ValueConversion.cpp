@@ -100,23 +100,3 @@ QVariant convertedValue(const QVariant &value, VarType type)
         return scalar(value, type);
     }
 }
-
-QVariant emptyValue(VarType type)
-{
-    switch (type) {
-    case VarType::Int:
-        return 0;
-    case VarType::Double:
-        return 0.0;
-    case VarType::String:
-        return QString(QLatin1String(""));
-    case VarType::Bool:
-        return false;
-    case VarType::List:
-    case VarType::Table:
-        return QVariantList();
-    case VarType::None:
-        break;
-    }
-    return {};
-}

@@ -7,6 +7,3 @@
 /// The value as one of `type`, where that says the same: "12" and 12, true and "true", a value and
 /// a list of it. Otherwise invalid, which is the empty value of the type.
 QVariant convertedValue(const QVariant &value, VarType type);
-
-/// The empty value of a type: 0, false, a text or a list with nothing in it.
-QVariant emptyValue(VarType type);

@@ -1,7 +1,8 @@
 #include "refhost/workbench/variables/ValueInput.h"
 
 #include "refhost/engine/JsonValue.h"
-#include "refhost/workbench/variables/ValuePreview.h"
+#include "refhost/workbench/values/NumberText.h"
+#include "refhost/workbench/values/VisibleText.h"
 
 #include <QCoreApplication>
 
@@ -11,6 +12,8 @@ struct Texts
 {
     Q_DECLARE_TR_FUNCTIONS(ValueInput)
 };
+
+constexpr int longestLine = 1000; ///< of what is edited in place
 
 QString expectation(VarType type)
 {
@@ -59,19 +62,13 @@ Result<QVariant> valueFromInput(const QString &text, VarType type)
     return isMinusZero(read.value(), trimmed) ? QVariant(-0.0) : read.value();
 }
 
-QString typeLabel(VarType type)
+bool needsViewer(const QVariant &value, VarType type)
 {
-    return typeLabels().value(static_cast<int>(type) - static_cast<int>(VarType::Int));
-}
-
-QStringList typeLabels()
-{
-    return {Texts::tr("整数"), Texts::tr("小数"), Texts::tr("字符串"),
-            Texts::tr("布尔"), Texts::tr("列表"), Texts::tr("表格")};
-}
-
-VarType typeFromLabel(const QString &label)
-{
-    const int index = typeLabels().indexOf(label);
-    return index < 0 ? VarType::None : static_cast<VarType>(index + static_cast<int>(VarType::Int));
+    if (type == VarType::List || type == VarType::Table ||
+        value.userType() == QMetaType::QVariantList)
+        return true;
+    if (value.userType() != QMetaType::QString)
+        return false;
+    const QString text = value.toString();
+    return text.size() > longestLine || !isPlainLine(text);
 }

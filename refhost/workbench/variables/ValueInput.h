@@ -5,7 +5,6 @@
 #include "VarType.h"
 
 #include <QString>
-#include <QStringList>
 #include <QVariant>
 
 // Between values and what a user types for them in one line.
@@ -18,11 +17,5 @@ QString inputText(const QVariant &value);
 /// is expected.
 Result<QVariant> valueFromInput(const QString &text, VarType type);
 
-/// The name of a type for users, such as "整数".
-QString typeLabel(VarType type);
-
-/// The names of all types, in the order of the types.
-QStringList typeLabels();
-
-/// The type of that name, `VarType::None` when there is none.
-VarType typeFromLabel(const QString &label);
+/// Whether the value is too long, or not plain enough, for an editor of one line.
+bool needsViewer(const QVariant &value, VarType type);

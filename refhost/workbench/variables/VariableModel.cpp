@@ -4,18 +4,20 @@
 #include "refhost/engine/ValueType.h"
 #include "refhost/workbench/document/TaskDocument.h"
 #include "refhost/workbench/look/Shades.h"
+#include "refhost/workbench/values/TypeWord.h"
+#include "refhost/workbench/values/ValuePreview.h"
+#include "refhost/workbench/values/VisibleText.h"
 #include "refhost/workbench/variables/CurrentValues.h"
 #include "refhost/workbench/variables/ValueConversion.h"
 #include "refhost/workbench/variables/ValueInput.h"
-#include "refhost/workbench/variables/ValuePreview.h"
 #include "refhost/workbench/variables/VariableRename.h"
-#include "refhost/workbench/variables/VisibleText.h"
 
 #include <QGuiApplication>
 #include <QPalette>
 
 namespace {
 
+constexpr int nameUnits = 120;
 constexpr int toolTipUnits = 600;
 
 Shades shades()
@@ -83,7 +85,7 @@ QVariant VariableModel::data(const QModelIndex &index, int role) const
         return detail(index);
     case ChoicesRole:
         if (index.column() == TypeColumn)
-            return typeLabels();
+            return typeWords();
         return holdsValue(index) && variable(index)->type == VarType::Bool ? truthValues()
                                                                            : QStringList();
     case OpensRole:
@@ -116,7 +118,7 @@ QString VariableModel::refusal(const QModelIndex &cell, const QString &input) co
     if (cell.column() == NameColumn)
         return nameProblem(idAt(cell.row()), input);
     if (cell.column() == TypeColumn)
-        return typeFromLabel(input) == VarType::None ? tr("没有这个类型。") : QString();
+        return typeFromWord(input) == VarType::None ? tr("没有这个类型。") : QString();
     if (cell.column() == CurrentColumn && !m_values.mayChange())
         return tr("只有在运行暂停或结束后才能修改当前值。");
     const Result<QVariant> value = valueFromInput(input, edited->type);
@@ -173,9 +175,9 @@ QString VariableModel::text(const QModelIndex &index) const
 {
     const TaskVariable &shown = *variable(index);
     if (index.column() == NameColumn)
-        return visibleText(shown.name);
+        return visibleText(shown.name, nameUnits);
     if (index.column() == TypeColumn)
-        return typeLabel(shown.type);
+        return typeWord(shown.type);
     return holdsValue(index) ? previewOf(value(index), shown.type).text : QString();
 }
 
@@ -242,7 +244,7 @@ void VariableModel::rename(int id, const QString &name)
 void VariableModel::setType(int id, const QString &label)
 {
     TaskVariable edited = m_document.state().variable(id)->variable;
-    const VarType type = typeFromLabel(label);
+    const VarType type = typeFromWord(label);
     if (edited.type == type)
         return;
     edited.type = type;

@@ -2,7 +2,7 @@
 
 #include "refhost/workbench/look/Shades.h"
 #include "refhost/workbench/look/SymbolIcon.h"
-#include "refhost/workbench/variables/VisibleText.h"
+#include "refhost/workbench/values/VisibleText.h"
 
 #include <QClipboard>
 #include <QContextMenuEvent>
@@ -257,7 +257,7 @@ void WholeTextEdit::paintEvent(QPaintEvent *event)
 
 void WholeTextEdit::layOut(QTextLayout &layout, int start, int end) const
 {
-    const QString shown = visibleText(QStringView(m_text).mid(start, end - start));
+    const QString shown = visibleUnits(QStringView(m_text).mid(start, end - start));
     QTextOption option;
     option.setWrapMode(QTextOption::NoWrap);
     // A bidirectional order would not be that of the positions.
