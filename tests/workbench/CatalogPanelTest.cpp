@@ -22,7 +22,6 @@ class CatalogPanelTest : public QuietTest
 
 private Q_SLOTS:
     void init();
-    void cleanup();
     void listsTheOperationsInTheirOrder();
     void rowsTellWhatTheyAre();
     void filters_data();
@@ -72,12 +71,6 @@ void CatalogPanelTest::init()
 {
     QuietTest::init();
     create({QStringLiteral(PLUGIN_FILE), QStringLiteral(GREET_PLUGIN)});
-}
-
-void CatalogPanelTest::cleanup()
-{
-    QCOMPARE(withoutPlatformLines(takeWarnings()), QStringList());
-    QuietTest::cleanup();
 }
 
 /// The row with that text, invalid when it is not shown.

@@ -7,7 +7,7 @@
 #include "refhost/workbench/variables/GridModel.h"
 #include "refhost/workbench/variables/TextViewer.h"
 #include "refhost/workbench/variables/WholeTextEdit.h"
-#include "tests/workbench/support/VariableWindowTest.h"
+#include "tests/support/QuietTest.h"
 
 #include <QAction>
 #include <QApplication>
@@ -38,7 +38,7 @@ QVariantList raggedTable()
 } // namespace
 
 /// Lists and tables are edited cell by cell; what is not edited stays exactly what it was.
-class ListGridTest : public VariableWindowTest
+class ListGridTest : public QuietTest
 {
     Q_OBJECT
 
@@ -97,7 +97,7 @@ void ListGridTest::init()
 void ListGridTest::cleanup()
 {
     delete m_grid;
-    VariableWindowTest::cleanup();
+    QuietTest::cleanup();
 }
 
 void ListGridTest::open(VarType type, const QVariant &value, bool readOnly)

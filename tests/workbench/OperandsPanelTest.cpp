@@ -99,7 +99,7 @@ void OperandsPanelTest::showsOperandsAndWrites()
     QVERIFY(status().startsWith("用时 "));
     QVERIFY(m_view->isVisible());
     QCOMPARE(rows(),
-             (QStringList{R"(原文本|"$r"|"-\n")", R"(要添加的文本|"007"|"7")", R"(r||"-\n7")"}));
+             (QStringList{R"(原文本|"$r"|"-↵")", R"(要添加的文本|"007"|"7")", R"(r||"-↵7")"}));
     m_bench->run.reset();
     settle();
     QCOMPARE(status(), "此步骤还没有运行");
@@ -126,7 +126,7 @@ void OperandsPanelTest::showsWhatIsNoNumber()
     m_bench->bench.place.setStep(id);
     QVERIFY(m_bench->runs());
     settle();
-    QVERIFY(rows().value(1).endsWith(R"(|"$r"|"-\n"（不是数值）)"));
+    QVERIFY(rows().value(1).endsWith(R"(|"$r"|"-↵"（不是数值）)"));
 }
 
 void OperandsPanelTest::tellsThatAStepWasEdited()

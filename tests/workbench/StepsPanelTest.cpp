@@ -25,7 +25,6 @@ class StepsPanelTest : public QuietTest
 
 private Q_SLOTS:
     void init();
-    void cleanup();
     void showsSteps();
     void summariesAreOneLine_data();
     void summariesAreOneLine();
@@ -88,12 +87,6 @@ void StepsPanelTest::init()
     m_panel->show();
     QVERIFY(QTest::qWaitForWindowActive(m_panel.get()));
     m_view->setFocus();
-}
-
-void StepsPanelTest::cleanup()
-{
-    QCOMPARE(withoutPlatformLines(takeWarnings()), QStringList());
-    QuietTest::cleanup();
 }
 
 void StepsPanelTest::select(const QVector<int> &rows)

@@ -4,7 +4,7 @@
 #include "refhost/workbench/variables/TextSearch.h"
 #include "refhost/workbench/variables/WholeTextEdit.h"
 
-#include "tests/workbench/support/VariableWindowTest.h"
+#include "tests/support/QuietTest.h"
 
 #include <QAction>
 #include <QClipboard>
@@ -47,7 +47,7 @@ QString randomText(QRandomGenerator &random, int size)
 } // namespace
 
 /// A text of any size is shown, searched and edited exactly.
-class TextViewerTest : public VariableWindowTest
+class TextViewerTest : public QuietTest
 {
     Q_OBJECT
 
@@ -104,7 +104,7 @@ void TextViewerTest::init()
 void TextViewerTest::cleanup()
 {
     delete m_viewer;
-    VariableWindowTest::cleanup();
+    QuietTest::cleanup();
 }
 
 void TextViewerTest::open(const QString &text, bool readOnly)

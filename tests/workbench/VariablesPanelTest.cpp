@@ -11,7 +11,7 @@
 #include "refhost/workbench/variables/VariableModel.h"
 #include "refhost/workbench/variables/WholeTextEdit.h"
 #include "refhost/workbench/window/Workbench.h"
-#include "tests/workbench/support/VariableWindowTest.h"
+#include "tests/support/QuietTest.h"
 
 #include "Operation.h"
 
@@ -49,7 +49,7 @@ public:
 } // namespace
 
 /// Variables are added, edited and removed in the panel, every time as one step of undo.
-class VariablesPanelTest : public VariableWindowTest
+class VariablesPanelTest : public QuietTest
 {
     Q_OBJECT
 
@@ -127,7 +127,7 @@ void VariablesPanelTest::cleanup()
 {
     m_panel.reset();
     m_bench.reset();
-    VariableWindowTest::cleanup();
+    QuietTest::cleanup();
 }
 
 int VariablesPanelTest::addVariable(const QString &name, VarType type, const QVariant &value)

@@ -35,33 +35,9 @@ private:
     Deed m_deed;
 };
 
-/// Keeps the platform without a screen from remarking on every window that it shows.
-class PlatformSilence
-{
-public:
-    PlatformSilence() { previous() = qInstallMessageHandler(pass); }
-    ~PlatformSilence() { qInstallMessageHandler(previous()); }
-
-private:
-    Q_DISABLE_COPY_MOVE(PlatformSilence)
-
-    static QtMessageHandler &previous()
-    {
-        static QtMessageHandler handler = nullptr;
-        return handler;
-    }
-
-    static void pass(QtMsgType type, const QMessageLogContext &context, const QString &message)
-    {
-        if (previous() && !message.contains("propagateSizeHints"))
-            previous()(type, context, message);
-    }
-};
-
 /// A workbench with the text operations, and short ways to give it a task and to run that.
 struct RunBench
 {
-    PlatformSilence silence;
     Workbench bench{{QStringLiteral(PLUGIN_FILE)}};
     TaskDocument &document = bench.document;
     RunSession &run = bench.run;

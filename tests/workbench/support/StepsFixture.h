@@ -9,17 +9,6 @@
 
 #include <memory>
 
-/// The log lines without those in which the platform without a screen tells what it cannot do.
-inline QStringList withoutPlatformLines(const QStringList &lines)
-{
-    QStringList others;
-    for (const QString &line : lines) {
-        if (!line.startsWith("This plugin does not support"))
-            others.append(line);
-    }
-    return others;
-}
-
 /// A workbench with steps for the tests of the panels that show them.
 class StepsFixture
 {
