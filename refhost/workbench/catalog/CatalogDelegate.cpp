@@ -6,19 +6,6 @@
 #include <QApplication>
 #include <QPainter>
 
-namespace {
-
-QColor secondColor(const QStyleOptionViewItem &option)
-{
-    if (!option.state.testFlag(QStyle::State_Selected))
-        return Shades::of(option.palette).quiet;
-    QColor color = option.palette.color(QPalette::HighlightedText);
-    color.setAlphaF(0.8);
-    return color;
-}
-
-} // namespace
-
 void CatalogDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                             const QModelIndex &index) const
 {
@@ -41,7 +28,7 @@ void CatalogDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
         return;
     painter->save();
     painter->setFont(option.font);
-    painter->setPen(secondColor(option));
+    painter->setPen(Shades::quietIn(option));
     painter->drawText(rest, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                       option.fontMetrics.elidedText(second, Qt::ElideRight, rest.width()));
     painter->restore();

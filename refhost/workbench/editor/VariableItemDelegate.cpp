@@ -21,12 +21,10 @@ void VariableItemDelegate::paint(QPainter *painter, const QStyleOptionViewItem &
                                  const QModelIndex &index) const
 {
     QStyledItemDelegate::paint(painter, option, index);
-    const bool selected = option.state.testFlag(QStyle::State_Selected);
     const int gap = option.fontMetrics.averageCharWidth();
     painter->save();
     painter->setFont(option.font);
-    painter->setPen(selected ? option.palette.color(QPalette::HighlightedText)
-                             : Shades::of(option.palette).quiet);
+    painter->setPen(Shades::quietIn(option));
     painter->drawText(option.rect.adjusted(gap, 0, -gap, 0), Qt::AlignRight | Qt::AlignVCenter,
                       typeOf(index));
     painter->restore();

@@ -4,7 +4,6 @@
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPalette>
-#include <QPixmap>
 
 namespace {
 
@@ -52,15 +51,6 @@ void OperationIconEngine::paint(QPainter *painter, const QRect &rect, QIcon::Mod
     else
         paintTile(*painter, rect, m_letter);
     painter->restore();
-}
-
-QPixmap OperationIconEngine::pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state)
-{
-    QPixmap pixmap(size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    paint(&painter, QRect(QPoint(0, 0), size), mode, state);
-    return pixmap;
 }
 
 QIconEngine *OperationIconEngine::clone() const

@@ -1,18 +1,18 @@
 #pragma once
 
-#include <QIconEngine>
+#include "refhost/workbench/look/PaintedIconEngine.h"
+
 #include <QSvgRenderer>
 
 #include <memory>
 
 /// Draws the SVG resource of an operation, or else a tile with the first letter of its name.
-class OperationIconEngine : public QIconEngine
+class OperationIconEngine : public PaintedIconEngine
 {
 public:
     OperationIconEngine(const QString &path, const QString &name);
 
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override;
-    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override;
     QIconEngine *clone() const override;
 
 private:

@@ -1,6 +1,7 @@
 #include "refhost/workbench/look/Shades.h"
 
 #include <QPalette>
+#include <QStyleOptionViewItem>
 
 namespace {
 
@@ -21,4 +22,13 @@ const Shades onDark{QColor(0xff, 0x8a, 0x80), QColor(0xff, 0xc1, 0x5e), QColor(0
 Shades Shades::of(const QPalette &palette)
 {
     return palette.color(QPalette::Base).lightness() < middle ? onDark : onLight;
+}
+
+QColor Shades::quietIn(const QStyleOptionViewItem &item)
+{
+    if (!item.state.testFlag(QStyle::State_Selected))
+        return of(item.palette).quiet;
+    QColor color = item.palette.color(QPalette::HighlightedText);
+    color.setAlphaF(0.8);
+    return color;
 }

@@ -3,6 +3,7 @@
 #include <QColor>
 
 class QPalette;
+class QStyleOptionViewItem;
 
 /// The colours with a meaning, fit for a light or a dark palette. Everything else takes the colours
 /// of the palette.
@@ -21,4 +22,7 @@ struct Shades
 
     /// Those that fit the palette.
     static Shades of(const QPalette &palette);
+
+    /// That of quiet text in an item of a view, which may be selected.
+    static QColor quietIn(const QStyleOptionViewItem &item);
 };

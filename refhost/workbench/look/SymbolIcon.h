@@ -1,8 +1,9 @@
 #pragma once
 
+#include <QColor>
 #include <QIcon>
 #include <QString>
 
-/// The icon of an action from the window's own set, drawn at any size in the text colour of the
-/// palette: ":/symbols/NAME.svg".
-QIcon symbolIcon(const QString &name);
+/// An icon from the window's own set, ":/symbols/NAME.svg", drawn at any size: that of an action in
+/// the text colour of the palette, a badge in a colour with a meaning, except where it is selected.
+QIcon symbolIcon(const QString &name, const QColor &color = {});

@@ -4,24 +4,10 @@
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPalette>
-#include <QPixmap>
 #include <QSvgRenderer>
 
-namespace {
-
-QColor symbolColor(QIcon::Mode mode)
-{
-    const QPalette palette = QGuiApplication::palette();
-    if (mode == QIcon::Disabled)
-        return palette.color(QPalette::Disabled, QPalette::ButtonText);
-    if (mode == QIcon::Selected)
-        return palette.color(QPalette::HighlightedText);
-    return palette.color(QPalette::ButtonText);
-}
-
-} // namespace
-
-SymbolIconEngine::SymbolIconEngine(const QString &path)
+SymbolIconEngine::SymbolIconEngine(const QString &path, const QColor &color)
+    : m_color(color)
 {
     QFile file(path);
     if (file.open(QIODevice::ReadOnly))
@@ -35,20 +21,21 @@ void SymbolIconEngine::paint(QPainter *painter, const QRect &rect, QIcon::Mode m
     if (m_svg.isEmpty())
         return;
     QByteArray svg = m_svg;
-    svg.replace("currentColor", symbolColor(mode).name().toLatin1());
+    svg.replace("currentColor", colorFor(mode).name().toLatin1());
     QSvgRenderer(svg).render(painter, rect);
-}
-
-QPixmap SymbolIconEngine::pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state)
-{
-    QPixmap pixmap(size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    paint(&painter, QRect(QPoint(0, 0), size), mode, state);
-    return pixmap;
 }
 
 QIconEngine *SymbolIconEngine::clone() const
 {
     return new SymbolIconEngine(*this);
+}
+
+QColor SymbolIconEngine::colorFor(QIcon::Mode mode) const
+{
+    const QPalette palette = QGuiApplication::palette();
+    if (mode == QIcon::Disabled)
+        return palette.color(QPalette::Disabled, QPalette::ButtonText);
+    if (mode == QIcon::Selected)
+        return palette.color(QPalette::HighlightedText);
+    return m_color.isValid() ? m_color : palette.color(QPalette::ButtonText);
 }

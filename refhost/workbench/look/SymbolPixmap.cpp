@@ -13,9 +13,7 @@ QPixmap drawn(const QString &name, const QColor &color, int side, qreal ratio)
     QPixmap pixmap(pixels, pixels);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
-    symbolIcon(name).paint(&painter, pixmap.rect());
-    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    painter.fillRect(pixmap.rect(), color);
+    symbolIcon(name, color).paint(&painter, pixmap.rect());
     painter.end();
     pixmap.setDevicePixelRatio(ratio);
     return pixmap;

@@ -3,7 +3,6 @@
 #include "refhost/engine/OperationSchema.h"
 #include "refhost/workbench/look/Shades.h"
 #include "refhost/workbench/look/SymbolIcon.h"
-#include "refhost/workbench/run/ShadeIcon.h"
 #include "refhost/workbench/window/Workbench.h"
 
 #include "Operation.h"
@@ -27,13 +26,13 @@ QIcon severityIcon(Severity severity)
     const Shades shades = Shades::of(QGuiApplication::palette());
     switch (severity) {
     case Severity::Error:
-        return shadeIcon(symbolIcon(QStringLiteral("error")), shades.error);
+        return symbolIcon(QStringLiteral("error"), shades.error);
     case Severity::Warning:
-        return shadeIcon(symbolIcon(QStringLiteral("warning")), shades.warning);
+        return symbolIcon(QStringLiteral("warning"), shades.warning);
     case Severity::Note:
         break;
     }
-    return shadeIcon(symbolIcon(QStringLiteral("note")), shades.note);
+    return symbolIcon(QStringLiteral("note"), shades.note);
 }
 
 bool sameFinding(const Finding &left, const Finding &right)

@@ -1,11 +1,11 @@
 #include "refhost/workbench/run/FindingsPanel.h"
 
+#include "refhost/workbench/look/EmptyHint.h"
 #include "refhost/workbench/run/FindingsModel.h"
 #include "refhost/workbench/window/Workbench.h"
 
 #include <QHeaderView>
 #include <QLabel>
-#include <QStackedLayout>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -13,31 +13,22 @@ FindingsPanel::FindingsPanel(Workbench &bench, QWidget *parent)
     : QWidget(parent)
     , m_bench(bench)
     , m_model(new FindingsModel(bench, this))
-    , m_pages(new QStackedLayout(this))
+    , m_view(new QTreeView(this))
+    , m_explanation(new QLabel(this))
 {
-    m_pages->setContentsMargins(0, 0, 0, 0);
-    m_pages->addWidget(createNothing());
-    m_pages->addWidget(createFindings());
-    connect(m_model, &QAbstractItemModel::modelReset, this, &FindingsPanel::update);
-    update();
-}
-
-QWidget *FindingsPanel::createNothing()
-{
-    auto *const nothing = new QLabel(tr("没有发现问题"), this);
-    nothing->setObjectName(QStringLiteral("findings.nothing"));
-    nothing->setAlignment(Qt::AlignCenter);
-    nothing->setEnabled(false);
-    return nothing;
-}
-
-QWidget *FindingsPanel::createFindings()
-{
-    auto *const page = new QWidget(this);
-    auto *const layout = new QVBoxLayout(page);
+    setUpView();
+    setUpExplanation();
+    auto *const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    m_view = new QTreeView(page);
+    layout->addWidget(m_view);
+    layout->addWidget(m_explanation);
+    setFocusProxy(m_view);
+    connect(m_model, &QAbstractItemModel::modelReset, this, [this] { explain({}); });
+}
+
+void FindingsPanel::setUpView()
+{
     m_view->setObjectName(QStringLiteral("findings.table"));
     m_view->setAccessibleName(tr("检查"));
     m_view->setModel(m_model);
@@ -54,22 +45,18 @@ QWidget *FindingsPanel::createFindings()
     connect(m_view, &QTreeView::activated, this, &FindingsPanel::goToFinding);
     connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &FindingsPanel::explain);
-    layout->addWidget(m_view);
-    m_explanation = new QLabel(page);
+    auto *const nothing = new EmptyHint(tr("没有发现问题"), *m_model, *m_view);
+    nothing->setObjectName(QStringLiteral("findings.nothing"));
+}
+
+void FindingsPanel::setUpExplanation()
+{
     m_explanation->setObjectName(QStringLiteral("findings.explanation"));
     m_explanation->setTextFormat(Qt::PlainText);
     m_explanation->setWordWrap(true);
     m_explanation->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_explanation->setMargin(style()->pixelMetric(QStyle::PM_LayoutVerticalSpacing));
     m_explanation->hide();
-    layout->addWidget(m_explanation);
-    return page;
-}
-
-void FindingsPanel::update()
-{
-    m_pages->setCurrentIndex(m_model->rowCount() == 0 ? 0 : 1);
-    explain({});
 }
 
 void FindingsPanel::explain(const QModelIndex &index)

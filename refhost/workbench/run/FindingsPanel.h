@@ -5,7 +5,6 @@
 class FindingsModel;
 class QLabel;
 class QModelIndex;
-class QStackedLayout;
 class QTreeView;
 struct Workbench;
 
@@ -19,15 +18,13 @@ public:
     explicit FindingsPanel(Workbench &bench, QWidget *parent = nullptr);
 
 private:
-    QWidget *createFindings();
-    QWidget *createNothing();
-    void update();
+    void setUpView();
+    void setUpExplanation();
     void explain(const QModelIndex &index);
     void goToFinding(const QModelIndex &index) const;
 
     Workbench &m_bench;
     FindingsModel *m_model;
-    QStackedLayout *m_pages;
-    QTreeView *m_view = nullptr;
-    QLabel *m_explanation = nullptr;
+    QTreeView *m_view;
+    QLabel *m_explanation;
 };

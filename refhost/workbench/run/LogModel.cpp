@@ -4,7 +4,6 @@
 #include "refhost/workbench/look/Shades.h"
 #include "refhost/workbench/look/SymbolIcon.h"
 #include "refhost/workbench/run/DurationText.h"
-#include "refhost/workbench/run/ShadeIcon.h"
 
 #include "Operation.h"
 
@@ -123,7 +122,7 @@ QVariant LogModel::decoration(const LogLine &line) const
 {
     if (line.kind == LogLine::Kind::Warning) {
         const Shades shades = Shades::of(QGuiApplication::palette());
-        return shadeIcon(symbolIcon(QStringLiteral("warning")), shades.warning);
+        return symbolIcon(QStringLiteral("warning"), shades.warning);
     }
     return line.operation ? QVariant(iconOf(*line.operation)) : QVariant();
 }

@@ -58,15 +58,6 @@ bool isSelected(const QStyleOptionViewItem &option)
     return option.state.testFlag(QStyle::State_Selected);
 }
 
-QColor quietColor(const QStyleOptionViewItem &option)
-{
-    if (!isSelected(option))
-        return Shades::of(option.palette).quiet;
-    QColor color = option.palette.color(QPalette::HighlightedText);
-    color.setAlphaF(0.8);
-    return color;
-}
-
 void paintArrow(QPainter &painter, const QRectF &gutter, const QColor &color)
 {
     const qreal side = gutter.width() / 2;
@@ -145,7 +136,7 @@ void paintTexts(QPainter &painter, const QStyleOptionViewItem &option, const QMo
 {
     const QFontMetrics &metrics = option.fontMetrics;
     painter.setFont(option.font);
-    painter.setPen(quietColor(option));
+    painter.setPen(Shades::quietIn(option));
     paintRightAligned(painter, layout.number, metrics, QString::number(index.row() + 1));
     paintRightAligned(painter, layout.duration, metrics, index.data(StepRole::Duration).toString());
     painter.setPen(
