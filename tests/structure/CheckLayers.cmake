@@ -1,6 +1,6 @@
 # Fails when a folder includes something of a folder it must not know. The arrows of the project:
 # plugin -> operations -> operations/common -> host, and refhost -> host; benchmarks know the host and
-# refhost/engine, tests may know all.
+# refhost/engine, tests may know all. Within the workbench see below.
 #
 #   cmake -D SOURCE_DIR=... -P CheckLayers.cmake
 
@@ -30,3 +30,26 @@ forbid(refhost/validator "plugin/|operations/|refhost/core|refhost/runner|refhos
 forbid(refhost/runner "plugin/|operations/|refhost/core|refhost/workbench|tests/|benchmarks/")
 forbid(refhost/workbench "plugin/|operations/|refhost/core|refhost/validator|refhost/runner|tests/|benchmarks/")
 forbid(benchmarks "plugin/|operations/|refhost/core|refhost/validator|refhost/runner|refhost/workbench|tests/")
+
+# The folders of the workbench, from what all share to the panels, which do not know each other. What
+# shows a run is apart from the run itself, in the same folder.
+set(run_panels "run/(Findings|Log|Operands|RunActions|RunChronicle|WarningPlace)")
+function(forbid_in_workbench folder)
+    list(JOIN ARGN "|refhost/workbench/" others)
+    forbid(refhost/workbench/${folder} "refhost/workbench/${others}")
+endfunction()
+set(panels catalog/ editor/ files/ options/ steps/ variables/ ${run_panels})
+set(window "window/(MainWindow|ViewMenu|StatusLine|EditActions|AboutText)")
+forbid_in_workbench(values document/ edits/ library/ look/ run/ settings/ window/ ${panels})
+forbid_in_workbench(settings document/ edits/ library/ look/ run/ values/ window/ ${panels})
+forbid_in_workbench(look document/ edits/ library/ run/ window/ ${panels})
+forbid_in_workbench(document edits/ look/ run/ window/ ${panels})
+forbid_in_workbench(library edits/ look/ run/ window/ ${panels})
+forbid_in_workbench(edits look/ ${window} ${panels})
+forbid_in_workbench(run edits/ catalog/ editor/ files/ options/ steps/ variables/ ${window})
+foreach(panel catalog editor files steps variables)
+    set(others ${panels})
+    list(REMOVE_ITEM others ${panel}/)
+    forbid_in_workbench(${panel} ${window} ${others})
+endforeach()
+forbid_in_workbench(window options/)

@@ -1,6 +1,6 @@
 #include "refhost/workbench/catalog/CatalogPanel.h"
 #include "refhost/workbench/catalog/CatalogModel.h"
-#include "refhost/workbench/catalog/OperationMime.h"
+#include "refhost/workbench/edits/OperationMime.h"
 #include "tests/support/QuietTest.h"
 #include "tests/workbench/support/StepsFixture.h"
 

@@ -1,9 +1,10 @@
 #include "refhost/engine/OperationCatalog.h"
 #include "refhost/engine/TaskReader.h"
-#include "refhost/workbench/steps/TaskClipboard.h"
-#include "refhost/workbench/steps/TaskText.h"
-#include "refhost/workbench/steps/UsedVariables.h"
+#include "refhost/workbench/document/VariableUses.h"
+#include "refhost/workbench/edits/TaskClipboard.h"
+#include "refhost/workbench/edits/TaskText.h"
 #include "tests/support/QuietTest.h"
+#include "tests/workbench/support/NewStep.h"
 
 #include "Operation.h"
 
@@ -69,9 +70,7 @@ QString indentedBy(ushort unit)
 StepState ClipboardTest::step(const QString &typeId, const QString &name,
                               const QVariant &value) const
 {
-    std::unique_ptr<Operation> operation(m_catalog.find(typeId)->prototype->clone(nullptr));
-    operation->setProperty(name.toUtf8().constData(), value);
-    return newStep(std::move(operation));
+    return newStepOf(m_catalog, typeId, {{name, value}});
 }
 
 TaskState ClipboardTest::pasted(const QMimeData &mime) const

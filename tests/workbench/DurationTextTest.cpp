@@ -1,4 +1,4 @@
-#include "refhost/workbench/run/DurationText.h"
+#include "refhost/workbench/values/DurationText.h"
 
 #include "tests/support/QuietTest.h"
 

@@ -3,9 +3,10 @@
 #include "refhost/engine/TaskReader.h"
 #include "refhost/engine/TaskWriter.h"
 #include "refhost/workbench/files/Recovery.h"
-#include "refhost/workbench/files/Settings.h"
+#include "refhost/workbench/settings/Settings.h"
 #include "refhost/workbench/window/Workbench.h"
 #include "tests/support/QuietTest.h"
+#include "tests/workbench/support/NewStep.h"
 #include "tests/workbench/support/ScriptedQuestions.h"
 
 #include "Operation.h"
@@ -142,9 +143,7 @@ void FileActionsTest::edit(const QString &text)
 {
     TaskDocument &document = m_bench->document;
     if (document.state().steps.isEmpty()) {
-        const Operation *const prototype =
-            m_bench->library.catalog().find("text.append")->prototype;
-        const StepState step = newStep(std::unique_ptr<Operation>(prototype->clone(nullptr)));
+        const StepState step = newStepOf(m_bench->library.catalog(), "text.append");
         document.change("add", document.state().withSteps(0, {step}), {});
     }
     const int id = document.state().steps.first().id;

@@ -88,7 +88,7 @@ void FindingsPanelTest::listsFindings()
     QVERIFY(rows.contains("2 原文本"));
     QVERIFY(rows.contains(" unused"));
     const QString tip = m_view->model()->index(0, 2).data(Qt::ToolTipRole).toString();
-    QVERIFY(tip.contains(findings.first().remedy));
+    QVERIFY(tip.contains(findings.first().remedy.toHtmlEscaped()));
 }
 
 void FindingsPanelTest::explainsTheCurrentOne()

@@ -8,6 +8,7 @@
 #include "refhost/workbench/variables/TextViewer.h"
 #include "refhost/workbench/variables/WholeTextEdit.h"
 #include "tests/support/QuietTest.h"
+#include "tests/workbench/support/CellTyping.h"
 
 #include <QAction>
 #include <QApplication>
@@ -75,8 +76,11 @@ private:
     QModelIndex cell(int row, int column) const { return m_table->model()->index(row, column); }
     QVariant value(int row, int column) const { return m_model->value(cell(row, column)); }
     QVariantList rows() const { return m_grid->value().toList(); }
-    CellEdit *startEditing(int row, int column);
-    void typeInto(int row, int column, const QString &text);
+    CellEdit *startEditing(int row, int column) { return ::startEditing(*m_table, row, column); }
+    void typeInto(int row, int column, const QString &text)
+    {
+        ::typeInto(*m_table, row, column, text);
+    }
     void trigger(const char *action);
     void select(int top, int left, int bottom, int right);
 
@@ -116,25 +120,6 @@ void ListGridTest::open(VarType type, const QVariant &value, bool readOnly)
     m_grid->open();
     m_grid->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(m_grid));
-}
-
-CellEdit *ListGridTest::startEditing(int row, int column)
-{
-    m_table->setFocus();
-    m_table->setCurrentIndex(cell(row, column));
-    QTest::keyClick(m_table, Qt::Key_Return);
-    return qobject_cast<CellEdit *>(QApplication::focusWidget());
-}
-
-void ListGridTest::typeInto(int row, int column, const QString &text)
-{
-    CellEdit *const edit = startEditing(row, column);
-    QVERIFY(edit);
-    edit->selectAll();
-    QTest::keyClick(edit, Qt::Key_Delete);
-    QTest::keyClicks(edit, text);
-    QTest::keyClick(edit, Qt::Key_Return);
-    QCoreApplication::processEvents();
 }
 
 void ListGridTest::trigger(const char *action)

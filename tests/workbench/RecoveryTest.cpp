@@ -1,7 +1,7 @@
 #include "refhost/workbench/files/Recovery.h"
 
 #include "refhost/workbench/files/FileActions.h"
-#include "refhost/workbench/files/Settings.h"
+#include "refhost/workbench/settings/Settings.h"
 #include "refhost/workbench/window/MainWindow.h"
 #include "refhost/workbench/window/Workbench.h"
 #include "tests/support/QuietTest.h"

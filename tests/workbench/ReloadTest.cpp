@@ -4,6 +4,7 @@
 #include "refhost/workbench/library/StepMigration.h"
 #include "refhost/workbench/library/StepMigrator.h"
 #include "tests/support/QuietTest.h"
+#include "tests/workbench/support/NewStep.h"
 
 #include "Operation.h"
 
@@ -111,8 +112,7 @@ void ReloadTest::reload(int version)
 
 void ReloadTest::addStep()
 {
-    const CatalogEntry *const entry = m_library->catalog().find("reload.step");
-    const StepState step = newStep(std::unique_ptr<Operation>(entry->prototype->clone(nullptr)));
+    const StepState step = newStepOf(m_library->catalog(), "reload.step");
     m_document->change("add", m_document->state().withSteps(0, {step}), {});
 }
 

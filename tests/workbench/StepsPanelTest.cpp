@@ -1,5 +1,5 @@
 #include "refhost/workbench/steps/StepsPanel.h"
-#include "refhost/workbench/catalog/OperationMime.h"
+#include "refhost/workbench/edits/OperationMime.h"
 #include "refhost/workbench/steps/StepDelegate.h"
 #include "refhost/workbench/steps/StepLayout.h"
 #include "refhost/workbench/steps/StepModel.h"

@@ -2,6 +2,7 @@
 
 #include "refhost/engine/OperationCatalog.h"
 #include "tests/support/QuietTest.h"
+#include "tests/workbench/support/NewStep.h"
 
 #include "Operation.h"
 
@@ -40,7 +41,7 @@ void TaskDocumentTest::init()
 
 StepState TaskDocumentTest::step(const QString &typeId) const
 {
-    return newStep(std::unique_ptr<Operation>(m_catalog.find(typeId)->prototype->clone(nullptr)));
+    return newStepOf(m_catalog, typeId);
 }
 
 QString TaskDocumentTest::summaries(const TaskState &state) const

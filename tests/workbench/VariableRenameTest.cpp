@@ -1,7 +1,10 @@
 #include "refhost/workbench/variables/VariableRename.h"
 
 #include "refhost/engine/OperationCatalog.h"
+#include "refhost/workbench/document/VariableNames.h"
+#include "refhost/workbench/document/VariableUses.h"
 #include "tests/support/QuietTest.h"
+#include "tests/workbench/support/NewStep.h"
 
 #include "Operation.h"
 
@@ -36,10 +39,7 @@ private:
 
 StepState VariableRenameTest::step(const QString &typeId, const QVariantMap &properties) const
 {
-    std::unique_ptr<Operation> made(m_catalog.find(typeId)->prototype->clone(nullptr));
-    for (auto property = properties.begin(); property != properties.end(); ++property)
-        made->setProperty(property.key().toUtf8(), property.value());
-    return newStep(std::move(made));
+    return newStepOf(m_catalog, typeId, properties);
 }
 
 TaskState VariableRenameTest::withVariables(const QStringList &names)

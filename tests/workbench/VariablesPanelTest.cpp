@@ -12,6 +12,8 @@
 #include "refhost/workbench/variables/WholeTextEdit.h"
 #include "refhost/workbench/window/Workbench.h"
 #include "tests/support/QuietTest.h"
+#include "tests/workbench/support/CellTyping.h"
+#include "tests/workbench/support/NewStep.h"
 
 #include "Operation.h"
 
@@ -98,8 +100,11 @@ private:
     TaskVariable variable(int row) const { return state().variables.at(row).variable; }
     int undoSteps() const { return m_bench->document.undoStack().count(); }
     QString stepText(const char *property) const;
-    CellEdit *startEditing(int row, int column);
-    void typeInto(int row, int column, const QString &text);
+    CellEdit *startEditing(int row, int column) { return ::startEditing(*m_table, row, column); }
+    void typeInto(int row, int column, const QString &text)
+    {
+        ::typeInto(*m_table, row, column, text);
+    }
     QString refusal() const;
     void trigger(const char *action);
 
@@ -139,11 +144,7 @@ int VariablesPanelTest::addVariable(const QString &name, VarType type, const QVa
 
 int VariablesPanelTest::addStep(const QVariantMap &properties)
 {
-    const Operation *const prototype = m_bench->library.catalog().find("text.append")->prototype;
-    std::unique_ptr<Operation> made(prototype->clone(nullptr));
-    for (auto property = properties.begin(); property != properties.end(); ++property)
-        made->setProperty(property.key().toUtf8(), property.value());
-    const StepState step = newStep(std::move(made));
+    const StepState step = newStepOf(m_bench->library.catalog(), "text.append", properties);
     m_bench->document.replace(state().withSteps(99, {step}));
     return step.id;
 }
@@ -151,25 +152,6 @@ int VariablesPanelTest::addStep(const QVariantMap &properties)
 QString VariablesPanelTest::stepText(const char *property) const
 {
     return state().steps.constFirst().operation->property(property).toString();
-}
-
-CellEdit *VariablesPanelTest::startEditing(int row, int column)
-{
-    m_table->setFocus();
-    m_table->setCurrentIndex(cell(row, column));
-    QTest::keyClick(m_table, Qt::Key_Return);
-    return qobject_cast<CellEdit *>(QApplication::focusWidget());
-}
-
-void VariablesPanelTest::typeInto(int row, int column, const QString &text)
-{
-    CellEdit *const edit = startEditing(row, column);
-    QVERIFY(edit);
-    edit->selectAll();
-    QTest::keyClick(edit, Qt::Key_Delete);
-    QTest::keyClicks(edit, text);
-    QTest::keyClick(edit, Qt::Key_Return);
-    QCoreApplication::processEvents();
 }
 
 /// What is told beside an editor, empty when nothing is.

@@ -1,7 +1,7 @@
 #include "refhost/workbench/catalog/CatalogModel.h"
 
 #include "refhost/engine/OperationSchema.h"
-#include "refhost/workbench/catalog/OperationMime.h"
+#include "refhost/workbench/edits/OperationMime.h"
 #include "refhost/workbench/library/PluginLibrary.h"
 #include "refhost/workbench/look/OperationIcon.h"
 #include "refhost/workbench/look/ShownToolTip.h"

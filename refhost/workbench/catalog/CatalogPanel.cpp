@@ -3,9 +3,9 @@
 #include "refhost/workbench/catalog/CatalogDelegate.h"
 #include "refhost/workbench/catalog/CatalogFilter.h"
 #include "refhost/workbench/catalog/CatalogModel.h"
+#include "refhost/workbench/edits/StepEdits.h"
 #include "refhost/workbench/look/EmptyHint.h"
 #include "refhost/workbench/look/SymbolIcon.h"
-#include "refhost/workbench/steps/StepEdits.h"
 #include "refhost/workbench/window/Workbench.h"
 
 #include "Operation.h"

@@ -2,6 +2,7 @@
 
 #include "refhost/engine/VarTypeName.h"
 #include "refhost/workbench/document/TaskDocument.h"
+#include "refhost/workbench/document/VariableNames.h"
 #include "refhost/workbench/look/Shades.h"
 #include "refhost/workbench/values/TypeWord.h"
 
@@ -15,7 +16,7 @@
 NewVariableDialog::NewVariableDialog(const TaskDocument &document, VarType type, QWidget *parent)
     : QDialog(parent)
     , m_document(document)
-    , m_name(new QLineEdit(freeName(document, tr("变量")), this))
+    , m_name(new QLineEdit(freeVariableName(document.state(), tr("变量")), this))
     , m_type(new QComboBox(this))
     , m_problem(new QLabel(this))
     , m_buttons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this))
@@ -45,6 +46,8 @@ void NewVariableDialog::createWidgets(VarType type)
     }
     m_type->setCurrentIndex(m_type->findData(static_cast<int>(type)));
     m_problem->setObjectName(QStringLiteral("newVariable.problem"));
+    m_problem->setTextFormat(Qt::PlainText);
+    m_problem->setWordWrap(true);
     QPalette colors = m_problem->palette();
     colors.setColor(QPalette::WindowText, Shades::of(palette()).error);
     m_problem->setPalette(colors);
@@ -59,21 +62,7 @@ void NewVariableDialog::createWidgets(VarType type)
 
 void NewVariableDialog::check()
 {
-    const QString name = m_name->text();
-    QString problem;
-    if (name.isEmpty())
-        problem = tr("请填写名称");
-    else if (m_document.state().variableNamed(name))
-        problem = tr("已有同名变量");
+    const QString problem = nameRefusal(m_document.state(), 0, m_name->text());
     m_problem->setText(problem);
     m_buttons->button(QDialogButtonBox::Ok)->setEnabled(problem.isEmpty());
-}
-
-QString freeName(const TaskDocument &document, const QString &stem)
-{
-    for (int number = 1;; ++number) {
-        QString name = stem + QString::number(number);
-        if (!document.state().variableNamed(name))
-            return name;
-    }
 }

@@ -33,6 +33,3 @@ private:
     QLabel *m_problem;
     QDialogButtonBox *m_buttons;
 };
-
-/// A name that begins with `stem` and no variable of the document has.
-QString freeName(const TaskDocument &document, const QString &stem);

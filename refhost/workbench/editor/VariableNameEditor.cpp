@@ -4,6 +4,7 @@
 #include "refhost/engine/PropertyRole.h"
 #include "refhost/engine/check/TaskFacts.h"
 #include "refhost/workbench/document/TaskDocument.h"
+#include "refhost/workbench/document/VariableNames.h"
 #include "refhost/workbench/editor/NewVariableDialog.h"
 #include "refhost/workbench/editor/PropertyTypes.h"
 #include "refhost/workbench/editor/VariableItemDelegate.h"
@@ -194,7 +195,7 @@ Remark VariableNameEditor::remarkOnType(VarType type)
 {
     const bool isResult = roleOf(schema()) == PropertyRole::Result;
     const bool isTaken = isResult && takesResult(schema(), type);
-    const QString other = freeName(document(), name());
+    const QString other = freeVariableName(document().state(), name());
     return {isTaken ? Remark::Kind::Warning : Remark::Kind::Error,
             tr("变量 %1 是%2，此处需要%3")
                 .arg(shortened(name()), typeWord(type), typeWordsOf(schema())),

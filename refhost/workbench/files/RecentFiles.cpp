@@ -1,6 +1,6 @@
 #include "refhost/workbench/files/RecentFiles.h"
 
-#include "refhost/workbench/files/Settings.h"
+#include "refhost/workbench/settings/Settings.h"
 
 #include <QFileInfo>
 #include <QSettings>

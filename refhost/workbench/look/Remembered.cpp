@@ -1,8 +1,8 @@
 #include "refhost/workbench/look/Remembered.h"
 
-#include "refhost/workbench/files/Settings.h"
 #include "refhost/workbench/look/Appearance.h"
 #include "refhost/workbench/look/Language.h"
+#include "refhost/workbench/settings/Settings.h"
 
 #include <QSettings>
 #include <QStringList>

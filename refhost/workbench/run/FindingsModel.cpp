@@ -2,6 +2,7 @@
 
 #include "refhost/engine/OperationSchema.h"
 #include "refhost/workbench/look/Shades.h"
+#include "refhost/workbench/look/ShownToolTip.h"
 #include "refhost/workbench/look/SymbolIcon.h"
 #include "refhost/workbench/window/Workbench.h"
 
@@ -69,8 +70,8 @@ QVariant FindingsModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         return cellText(row, index.column());
     case Qt::ToolTipRole:
-        return tr("%1\n%2\n%3")
-            .arg(row.finding.message, row.finding.consequence, row.finding.remedy);
+        return shownToolTip(
+            tr("%1\n%2\n%3").arg(row.finding.message, row.finding.consequence, row.finding.remedy));
     case Qt::DecorationRole:
         return index.column() == MessageColumn ? QVariant(severityIcon(row.finding.severity))
                                                : QVariant();

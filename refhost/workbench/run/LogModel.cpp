@@ -2,8 +2,9 @@
 
 #include "refhost/workbench/look/OperationIcon.h"
 #include "refhost/workbench/look/Shades.h"
+#include "refhost/workbench/look/ShownToolTip.h"
 #include "refhost/workbench/look/SymbolIcon.h"
-#include "refhost/workbench/run/DurationText.h"
+#include "refhost/workbench/values/DurationText.h"
 
 #include "Operation.h"
 
@@ -34,7 +35,7 @@ QVariant LogModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         return cellText(line, index.column());
     case Qt::ToolTipRole:
-        return index.column() == WritesColumn ? line.writes : line.text;
+        return shownToolTip(index.column() == WritesColumn ? line.writes : line.text);
     case Qt::DecorationRole:
         return index.column() == TextColumn ? decoration(line) : QVariant();
     case Qt::TextAlignmentRole:

@@ -2,9 +2,10 @@
 
 #include "refhost/engine/OperandText.h"
 #include "refhost/workbench/look/Shades.h"
+#include "refhost/workbench/look/ShownToolTip.h"
 #include "refhost/workbench/look/SymbolIcon.h"
-#include "refhost/workbench/run/DurationText.h"
 #include "refhost/workbench/run/WarningPlace.h"
+#include "refhost/workbench/values/DurationText.h"
 #include "refhost/workbench/values/ValuePreview.h"
 #include "refhost/workbench/values/VisibleText.h"
 #include "refhost/workbench/window/Workbench.h"
@@ -170,7 +171,7 @@ void OperandsPanel::addOperand(QTreeWidgetItem *section, const OperandRecord &op
     item->setText(FoundColumn, isNoNumber ? tr("%1（不是数值）").arg(valueLine(operand.found))
                                           : valueLine(value));
     for (int column = 0; column <= FoundColumn; ++column)
-        item->setToolTip(column, item->text(column));
+        item->setToolTip(column, shownToolTip(item->text(column)));
     if (operand.isReference)
         item->setForeground(WrittenColumn, shades.reference);
     if (!value.isValid())
@@ -184,8 +185,8 @@ void OperandsPanel::addWrite(QTreeWidgetItem *section, const WriteRecord &write)
     auto *const item = new QTreeWidgetItem(section);
     item->setText(NameColumn, visibleText(write.variable, mostUnits));
     item->setText(FoundColumn, valueLine(write.value));
-    item->setToolTip(NameColumn, item->text(NameColumn));
-    item->setToolTip(FoundColumn, item->text(FoundColumn));
+    item->setToolTip(NameColumn, shownToolTip(item->text(NameColumn)));
+    item->setToolTip(FoundColumn, shownToolTip(item->text(FoundColumn)));
     item->setBackground(FoundColumn, Shades::of(palette()).written);
     item->setData(NameColumn, valueRole, write.value);
     item->setData(NameColumn, variableRole, write.variable);
@@ -196,7 +197,7 @@ void OperandsPanel::addWarning(QTreeWidgetItem *section, const QString &line)
     const QString shown = visibleText(line, mostUnits);
     auto *const item = new QTreeWidgetItem(section, {shown});
     item->setFirstColumnSpanned(true);
-    item->setToolTip(NameColumn, shown);
+    item->setToolTip(NameColumn, shownToolTip(shown));
     item->setForeground(NameColumn, Shades::of(palette()).warning);
     item->setData(NameColumn, valueRole, line);
     item->setData(NameColumn, warningRole, true);

@@ -13,9 +13,6 @@ public:
     /// The last one of a step, null when there is none. Valid until the next `add`.
     const StepRecord *last(int step) const;
 
-    /// How many records there were, the forgotten ones included.
-    int rounds() const { return m_rounds; }
-
     void clear();
     /// Adds a record and numbers it.
     const StepRecord &add(StepRecord record);

@@ -1,8 +1,8 @@
 #include "refhost/workbench/steps/StepActions.h"
 
+#include "refhost/workbench/edits/TaskClipboard.h"
 #include "refhost/workbench/look/SymbolIcon.h"
 #include "refhost/workbench/steps/StepView.h"
-#include "refhost/workbench/steps/TaskClipboard.h"
 #include "refhost/workbench/window/Workbench.h"
 
 #include "Operation.h"

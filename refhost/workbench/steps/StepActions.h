@@ -1,6 +1,6 @@
 #pragma once
 
-#include "refhost/workbench/steps/StepEdits.h"
+#include "refhost/workbench/edits/StepEdits.h"
 
 #include <QAction>
 #include <QList>

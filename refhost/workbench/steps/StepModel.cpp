@@ -1,11 +1,11 @@
 #include "refhost/workbench/steps/StepModel.h"
 
+#include "refhost/workbench/edits/StepEdits.h"
+#include "refhost/workbench/edits/TaskClipboard.h"
 #include "refhost/workbench/look/OperationIcon.h"
 #include "refhost/workbench/look/ShownToolTip.h"
-#include "refhost/workbench/run/DurationText.h"
 #include "refhost/workbench/steps/StepDrag.h"
-#include "refhost/workbench/steps/StepEdits.h"
-#include "refhost/workbench/steps/TaskClipboard.h"
+#include "refhost/workbench/values/DurationText.h"
 #include "refhost/workbench/values/VisibleText.h"
 #include "refhost/workbench/window/Workbench.h"
 

@@ -1,13 +1,13 @@
 #include "refhost/workbench/steps/StepView.h"
 
 #include "refhost/engine/OperationSchema.h"
-#include "refhost/workbench/catalog/OperationMime.h"
+#include "refhost/workbench/edits/OperationMime.h"
+#include "refhost/workbench/edits/TaskClipboard.h"
 #include "refhost/workbench/look/EmptyHint.h"
 #include "refhost/workbench/steps/StepDelegate.h"
 #include "refhost/workbench/steps/StepDrag.h"
 #include "refhost/workbench/steps/StepLayout.h"
 #include "refhost/workbench/steps/StepModel.h"
-#include "refhost/workbench/steps/TaskClipboard.h"
 #include "refhost/workbench/window/Workbench.h"
 
 #include "Operation.h"

@@ -3,7 +3,9 @@
 #include "refhost/engine/ExactValue.h"
 #include "refhost/engine/ValueType.h"
 #include "refhost/workbench/document/TaskDocument.h"
+#include "refhost/workbench/document/VariableNames.h"
 #include "refhost/workbench/look/Shades.h"
+#include "refhost/workbench/look/ShownToolTip.h"
 #include "refhost/workbench/values/TypeWord.h"
 #include "refhost/workbench/values/ValuePreview.h"
 #include "refhost/workbench/values/VisibleText.h"
@@ -204,7 +206,7 @@ QVariant VariableModel::toolTip(const QModelIndex &index) const
         return tr("没有步骤使用这个变量。");
     if (!holdsValue(index))
         return {};
-    return previewOf(value(index), shown.type, toolTipUnits).toString();
+    return shownToolTip(previewOf(value(index), shown.type, toolTipUnits).toString());
 }
 
 QVariant VariableModel::foreground(const QModelIndex &index) const

@@ -3,25 +3,13 @@
 #include "refhost/engine/OperandText.h"
 #include "refhost/engine/OperationSchema.h"
 #include "refhost/engine/PropertyRole.h"
+#include "refhost/workbench/document/VariableUses.h"
 
 #include "Operation.h"
-
-#include <QCoreApplication>
-#include <QSet>
 
 #include <optional>
 
 namespace {
-
-struct Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(VariableRename)
-};
-
-bool isOperand(PropertyRole role)
-{
-    return role == PropertyRole::Text || role == PropertyRole::Number;
-}
 
 bool isBareName(PropertyRole role)
 {
@@ -31,18 +19,6 @@ bool isBareName(PropertyRole role)
 QVariant valueOf(const Operation &step, const PropertySchema &property)
 {
     return step.property(property.name.toUtf8().constData());
-}
-
-bool names(const Operation &step, const PropertySchema &property, const QString &name)
-{
-    const QVariant value = valueOf(step, property);
-    if (value.userType() != QMetaType::QString)
-        return false;
-    const PropertyRole role = roleOf(property);
-    if (isBareName(role))
-        return value.toString() == name;
-    const OperandText operand = readOperand(value.toString());
-    return isOperand(role) && operand.isReference && operand.name == name;
 }
 
 /// The reference with another name, none when it would be read otherwise.
@@ -71,7 +47,7 @@ void forEachUse(const Operation &step, const QString &name, Visit visit)
 {
     const OperationSchema schema(step);
     for (const PropertySchema &property : schema.properties()) {
-        if (names(step, property, name))
+        if (namedVariable(property, valueOf(step, property)) == name)
             visit(property);
     }
 }
@@ -91,26 +67,7 @@ void renameInStep(StepState &step, const QString &oldName, const QString &newNam
         step.operation = std::move(edited);
 }
 
-QString withoutNumber(const QString &name)
-{
-    int size = name.size();
-    while (size > 0 && name.at(size - 1).isDigit())
-        --size;
-    return name.left(size);
-}
-
 } // namespace
-
-QVector<VariableUse> variableUses(const TaskState &state, const QString &name)
-{
-    QVector<VariableUse> uses;
-    for (const StepState &step : state.steps) {
-        forEachUse(*step.operation, name, [&](const PropertySchema &property) {
-            uses.append({step.id, property.name});
-        });
-    }
-    return uses;
-}
 
 TaskState withVariableRenamed(const TaskState &state, int id, const QString &name, bool inSteps)
 {
@@ -138,27 +95,4 @@ bool breaksReferences(const TaskState &state, const QString &oldName, const QStr
         });
     }
     return breaks;
-}
-
-QString nameRefusal(const TaskState &state, int id, const QString &name)
-{
-    if (name.isEmpty())
-        return Texts::tr("变量需要一个名称。");
-    for (const VariableState &other : state.variables) {
-        if (other.id != id && other.variable.name == name)
-            return Texts::tr("已有名为“%1”的变量，请换一个名称。").arg(name);
-    }
-    return {};
-}
-
-QString freeVariableName(const TaskState &state, const QString &name)
-{
-    const QStringList names = state.variableNames();
-    const QSet<QString> taken(names.cbegin(), names.cend());
-    const QString base = withoutNumber(name);
-    for (int number = 1;; ++number) {
-        QString candidate = base + QString::number(number);
-        if (!taken.contains(candidate))
-            return candidate;
-    }
 }

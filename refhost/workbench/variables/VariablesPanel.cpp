@@ -1,5 +1,7 @@
 #include "refhost/workbench/variables/VariablesPanel.h"
 
+#include "refhost/workbench/document/VariableNames.h"
+#include "refhost/workbench/document/VariableUses.h"
 #include "refhost/workbench/look/Shades.h"
 #include "refhost/workbench/look/SymbolIcon.h"
 #include "refhost/workbench/variables/CellKind.h"
@@ -8,7 +10,6 @@
 #include "refhost/workbench/variables/RunValues.h"
 #include "refhost/workbench/variables/TextViewer.h"
 #include "refhost/workbench/variables/VariableModel.h"
-#include "refhost/workbench/variables/VariableRename.h"
 #include "refhost/workbench/window/Workbench.h"
 
 #include <QCheckBox>

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "refhost/engine/OperationCatalog.h"
 #include "refhost/workbench/editor/EditorPanel.h"
 #include "refhost/workbench/editor/ExactTextEdit.h"
 #include "refhost/workbench/editor/PropertyEditor.h"
 #include "refhost/workbench/editor/RemarkLine.h"
 #include "refhost/workbench/window/Workbench.h"
+#include "tests/workbench/support/NewStep.h"
 
 #include "Operation.h"
 
@@ -43,8 +43,7 @@ public:
 
     StepState newStep(const QString &typeId) const
     {
-        const Operation *const prototype = bench.library.catalog().find(typeId)->prototype;
-        return ::newStep(std::unique_ptr<Operation>(prototype->clone(nullptr)));
+        return newStepOf(bench.library.catalog(), typeId);
     }
 
     /// Sets a property, as another panel would.

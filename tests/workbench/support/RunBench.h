@@ -1,6 +1,7 @@
 #pragma once
 
 #include "refhost/workbench/window/Workbench.h"
+#include "tests/workbench/support/NewStep.h"
 
 #include "Operation.h"
 
@@ -44,11 +45,7 @@ struct RunBench
 
     StepState newStepOf(const QString &typeId, const QVariantMap &settings) const
     {
-        std::unique_ptr<Operation> step(
-            bench.library.catalog().find(typeId)->prototype->clone(nullptr));
-        for (auto setting = settings.cbegin(); setting != settings.cend(); ++setting)
-            step->setProperty(setting.key().toUtf8().constData(), setting.value());
-        return newStep(std::move(step));
+        return ::newStepOf(bench.library.catalog(), typeId, settings);
     }
 
     /// The identifier of the step, inserted at `row` or else at the end.

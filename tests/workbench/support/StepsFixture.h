@@ -1,13 +1,11 @@
 #pragma once
 
 #include "refhost/workbench/window/Workbench.h"
+#include "tests/workbench/support/NewStep.h"
 
 #include "Operation.h"
 
-#include <QMap>
 #include <QStringList>
-
-#include <memory>
 
 /// A workbench with steps for the tests of the panels that show them.
 class StepsFixture
@@ -19,13 +17,9 @@ public:
     }
 
     /// A new step of that type with those properties.
-    StepState step(const QString &typeId, const QMap<QString, QVariant> &properties = {}) const
+    StepState step(const QString &typeId, const QVariantMap &properties = {}) const
     {
-        std::unique_ptr<Operation> operation(
-            bench.library.catalog().find(typeId)->prototype->clone(nullptr));
-        for (auto it = properties.begin(); it != properties.end(); ++it)
-            operation->setProperty(it.key().toUtf8().constData(), it.value());
-        return newStep(std::move(operation));
+        return newStepOf(bench.library.catalog(), typeId, properties);
     }
 
     /// Opens a task of appending steps whose sources are `sources`.

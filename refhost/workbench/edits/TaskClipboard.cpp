@@ -1,10 +1,10 @@
-#include "refhost/workbench/steps/TaskClipboard.h"
+#include "refhost/workbench/edits/TaskClipboard.h"
 
 #include "refhost/engine/TaskPacker.h"
 #include "refhost/engine/TaskUnpacker.h"
 #include "refhost/engine/TaskWriter.h"
-#include "refhost/workbench/steps/TaskText.h"
-#include "refhost/workbench/steps/UsedVariables.h"
+#include "refhost/workbench/document/VariableUses.h"
+#include "refhost/workbench/edits/TaskText.h"
 
 #include "Operation.h"
 

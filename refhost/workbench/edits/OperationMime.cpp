@@ -1,4 +1,4 @@
-#include "refhost/workbench/catalog/OperationMime.h"
+#include "refhost/workbench/edits/OperationMime.h"
 
 #include <QMimeData>
 

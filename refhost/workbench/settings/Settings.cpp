@@ -1,4 +1,4 @@
-#include "refhost/workbench/files/Settings.h"
+#include "refhost/workbench/settings/Settings.h"
 
 #include <QStandardPaths>
 

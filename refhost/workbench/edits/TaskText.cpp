@@ -1,4 +1,4 @@
-#include "refhost/workbench/steps/TaskText.h"
+#include "refhost/workbench/edits/TaskText.h"
 
 #include "refhost/engine/JsonFile.h"
 #include "refhost/engine/TaskReader.h"

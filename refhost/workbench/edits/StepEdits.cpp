@@ -1,7 +1,7 @@
-#include "refhost/workbench/steps/StepEdits.h"
+#include "refhost/workbench/edits/StepEdits.h"
 
 #include "refhost/engine/OperationSchema.h"
-#include "refhost/workbench/steps/TaskClipboard.h"
+#include "refhost/workbench/edits/TaskClipboard.h"
 #include "refhost/workbench/values/VisibleText.h"
 #include "refhost/workbench/window/Workbench.h"
 
