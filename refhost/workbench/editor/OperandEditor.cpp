@@ -4,6 +4,7 @@
 #include "refhost/workbench/editor/ExactTextEdit.h"
 #include "refhost/workbench/editor/NewVariableDialog.h"
 #include "refhost/workbench/editor/ReferenceFacts.h"
+#include "refhost/workbench/look/LabelText.h"
 #include "refhost/workbench/look/Shades.h"
 #include "refhost/workbench/look/SymbolIcon.h"
 #include "refhost/workbench/values/InvisibleCharacter.h"
@@ -22,9 +23,8 @@ constexpr int nameUnits = 40;
 /// The text of a menu item for a reference; the type stands in the column of the shortcuts.
 QString itemText(const ReferenceChoice &choice)
 {
-    QString name = visibleText(choice.text.mid(1), nameUnits);
-    name.replace(QLatin1Char('&'), QLatin1String("&&"));
-    return name + QLatin1Char('\t') + typeWord(choice.type);
+    return labelText(visibleText(choice.text.mid(1), nameUnits)) + QLatin1Char('\t') +
+           typeWord(choice.type);
 }
 
 } // namespace

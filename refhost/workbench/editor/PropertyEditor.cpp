@@ -2,6 +2,8 @@
 
 #include "refhost/workbench/document/TaskDocument.h"
 #include "refhost/workbench/editor/RemarkLine.h"
+#include "refhost/workbench/look/LabelText.h"
+#include "refhost/workbench/look/ShownToolTip.h"
 
 #include <QAction>
 #include <QContextMenuEvent>
@@ -35,23 +37,6 @@ QMenu *standardMenu(QWidget *field)
     if (auto *const text = qobject_cast<QTextEdit *>(field))
         return text->createStandardContextMenu();
     return nullptr;
-}
-
-/// A tool tip that shows texts of a user as they are, and breaks long ones.
-QString toolTipOf(const QStringList &lines)
-{
-    if (lines.isEmpty())
-        return {};
-    QStringList escaped;
-    for (const QString &line : lines)
-        escaped.append(line.toHtmlEscaped());
-    return QStringLiteral("<qt>%1</qt>").arg(escaped.join(QLatin1String("<br>")));
-}
-
-/// A text for a label with a buddy, which would take "&" for a mnemonic.
-QString labelText(QString text)
-{
-    return text.replace(QLatin1Char('&'), QLatin1String("&&"));
 }
 
 } // namespace
@@ -115,7 +100,7 @@ void PropertyEditor::showFindings()
         else
             covered.append({finding.consequence, finding.remedy});
     }
-    m_remark->setToolTip(toolTipOf(covered));
+    m_remark->setToolTip(shownToolTip(covered.join(QLatin1Char('\n'))));
     while (m_findings.size() > shown.size())
         delete m_findings.takeLast();
     while (m_findings.size() < shown.size())
@@ -123,7 +108,8 @@ void PropertyEditor::showFindings()
     for (int i = 0; i < shown.size(); ++i) {
         const Finding &finding = shown.at(i);
         m_findings.at(i)->setRemark({kindOf(finding.severity), finding.message});
-        m_findings.at(i)->setToolTip(toolTipOf({finding.consequence, finding.remedy}));
+        m_findings.at(i)->setToolTip(
+            shownToolTip(finding.consequence + QLatin1Char('\n') + finding.remedy));
     }
 }
 

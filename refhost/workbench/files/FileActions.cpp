@@ -5,6 +5,8 @@
 #include "refhost/workbench/files/Recovery.h"
 #include "refhost/workbench/files/RecoveryFile.h"
 #include "refhost/workbench/library/FileWatch.h"
+#include "refhost/workbench/look/LabelText.h"
+#include "refhost/workbench/look/ShownToolTip.h"
 #include "refhost/workbench/look/SymbolIcon.h"
 #include "refhost/workbench/window/Workbench.h"
 
@@ -98,14 +100,13 @@ void FileActions::fillRecentMenu()
     const QStringList files = m_recent.files();
     for (int i = 0; i < files.size(); ++i) {
         const QString &path = files.at(i);
-        // A menu takes "&" for a mark, and the tenth has the digit 0.
-        const QString shown = m_recentMenu->fontMetrics()
-                                  .elidedText(QDir::toNativeSeparators(path), Qt::ElideMiddle,
-                                              60 * m_recentMenu->fontMetrics().averageCharWidth())
-                                  .replace(QLatin1Char('&'), QLatin1String("&&"));
-        QAction *const action =
-            m_recentMenu->addAction(QStringLiteral("&%1  %2").arg((i + 1) % 10).arg(shown));
-        action->setToolTip(QDir::toNativeSeparators(path));
+        const QString shown = m_recentMenu->fontMetrics().elidedText(
+            QDir::toNativeSeparators(path), Qt::ElideMiddle,
+            60 * m_recentMenu->fontMetrics().averageCharWidth());
+        // The tenth has the digit 0.
+        QAction *const action = m_recentMenu->addAction(
+            QStringLiteral("&%1  %2").arg((i + 1) % 10).arg(labelText(shown)));
+        action->setToolTip(shownToolTip(QDir::toNativeSeparators(path)));
         action->setEnabled(QFileInfo(path).isFile());
         connect(action, &QAction::triggered, this, [this, path] { open(path); });
     }

@@ -2,6 +2,7 @@
 
 #include "refhost/engine/ValueType.h"
 #include "refhost/workbench/look/Shades.h"
+#include "refhost/workbench/look/ShownToolTip.h"
 #include "refhost/workbench/values/NumberText.h"
 #include "refhost/workbench/values/ValuePreview.h"
 #include "refhost/workbench/variables/ValueInput.h"
@@ -91,7 +92,7 @@ QVariant GridModel::data(const QModelIndex &index, int role) const
         return isBlank ? QString() : previewOf(shown, previewType(shown)).text;
     }
     case Qt::ToolTipRole:
-        return previewOf(shown, previewType(shown)).toString();
+        return shownToolTip(previewOf(shown, previewType(shown)).toString());
     case Qt::EditRole:
         return inputText(shown);
     case DetailRole:
