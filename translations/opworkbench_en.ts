@@ -651,14 +651,6 @@ The packed format can.</translation>
         <source>类型(&amp;T)：</source>
         <translation>&amp;Type:</translation>
     </message>
-    <message>
-        <source>请填写名称</source>
-        <translation>Enter a name</translation>
-    </message>
-    <message>
-        <source>已有同名变量</source>
-        <translation>This name is taken</translation>
-    </message>
 </context>
 <context>
     <name>NumberOperandEditor</name>
@@ -884,6 +876,18 @@ The packed format can.</translation>
     <message>
         <source>没有第 %1 步；任务有 %2 步。</source>
         <translation>There is no step %1; the number of steps is %2.</translation>
+    </message>
+</context>
+<context>
+    <name>PropertyTypes</name>
+    <message>
+        <source>数值</source>
+        <translation>number</translation>
+    </message>
+    <message>
+        <source>、</source>
+        <comment>between types</comment>
+        <translation>, </translation>
     </message>
 </context>
 <context>
@@ -1353,10 +1357,6 @@ The packed format can.</translation>
         <translation>string</translation>
     </message>
     <message>
-        <source>真假值</source>
-        <translation>bool</translation>
-    </message>
-    <message>
         <source>列表</source>
         <translation>list</translation>
     </message>
@@ -1369,27 +1369,8 @@ The packed format can.</translation>
         <translation>unknown type</translation>
     </message>
     <message>
-        <source>数值</source>
-        <translation>number</translation>
-    </message>
-    <message>
-        <source>、</source>
-        <comment>between types</comment>
-        <translation>, </translation>
-    </message>
-    <message numerus="yes">
-        <source>%Ln 行</source>
-        <translation>
-            <numerusform>%Ln row</numerusform>
-            <numerusform>%Ln rows</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%Ln 个元素</source>
-        <translation>
-            <numerusform>%Ln element</numerusform>
-            <numerusform>%Ln elements</numerusform>
-        </translation>
+        <source>布尔值</source>
+        <translation>bool</translation>
     </message>
 </context>
 <context>
@@ -1441,44 +1422,12 @@ The packed format can.</translation>
         <source>这里不能填写这个值。</source>
         <translation>This value cannot be entered here.</translation>
     </message>
-    <message>
-        <source>整数</source>
-        <translation>int</translation>
-    </message>
-    <message>
-        <source>小数</source>
-        <translation>double</translation>
-    </message>
-    <message>
-        <source>字符串</source>
-        <translation>string</translation>
-    </message>
-    <message>
-        <source>布尔</source>
-        <translation>bool</translation>
-    </message>
-    <message>
-        <source>列表</source>
-        <translation>list</translation>
-    </message>
-    <message>
-        <source>表格</source>
-        <translation>table</translation>
-    </message>
 </context>
 <context>
     <name>ValuePreview</name>
     <message>
         <source>（没有值）</source>
         <translation>(no value)</translation>
-    </message>
-    <message>
-        <source>%1…（共 %2 个单元）</source>
-        <translation>%1… (%2 units)</translation>
-    </message>
-    <message>
-        <source>%1…（共 %2 项）</source>
-        <translation>%1… (items: %2)</translation>
     </message>
     <message>
         <source>（空）</source>
@@ -1600,7 +1549,7 @@ The packed format can.</translation>
     </message>
 </context>
 <context>
-    <name>VariableRename</name>
+    <name>VariableNames</name>
     <message>
         <source>变量需要一个名称。</source>
         <translation>A variable needs a name.</translation>
