@@ -1,7 +1,8 @@
 # Installs into an empty folder, moves it, and runs a task from there: the programs find their
-# library and the plug-in beside themselves, and oprun its probe.
+# library and the plug-in beside themselves, and oprun its probe. The workbench, where there is one,
+# draws its window.
 #
-#   cmake -D BUILD_DIR=... -D WORK_DIR=... -D TASK=... -P InstallTree.cmake
+#   cmake -D BUILD_DIR=... -D WORK_DIR=... -D TASK=... -D WITH_WORKBENCH=... -P InstallTree.cmake
 
 file(REMOVE_RECURSE ${WORK_DIR})
 execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${WORK_DIR}/first
@@ -20,6 +21,17 @@ execute_process(COMMAND ${WORK_DIR}/second/bin/oprun validate --only file.loads 
     RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
 if(result)
     message(FATAL_ERROR "oprun validate from the installed tree gave ${result}\n${output}")
+endif()
+
+if(WITH_WORKBENCH)
+    execute_process(
+        COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen XDG_CONFIG_HOME=${WORK_DIR}
+                XDG_DATA_HOME=${WORK_DIR} ${WORK_DIR}/second/bin/opworkbench
+                --screenshot ${WORK_DIR}/window.png --run ${TASK}
+        RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
+    if(result OR NOT EXISTS ${WORK_DIR}/window.png)
+        message(FATAL_ERROR "opworkbench from the installed tree gave ${result}\n${output}")
+    endif()
 endif()
 
 foreach(file share/man/man1/oprun.1 share/bash-completion/completions/oprun)
