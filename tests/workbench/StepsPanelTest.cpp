@@ -179,7 +179,7 @@ void StepsPanelTest::summariesAreOneLine_data()
     QTest::newRow("tabulator") << "1\t2"
                                << "1⇥2";
     QTest::newRow("control characters")
-        << QString("1") + QChar(0) + QChar(0x1b) + QChar(0x7f) << "1␀␛␡";
+        << QString("1") + QChar(0) + QChar(0x1b) + QChar(0x7f) << "1‹NUL›‹ESC›‹DEL›";
     QTest::newRow("paragraph") << QString("1") + QChar(0x2029) << "1‹PS›";
     QTest::newRow("direction") << QString("1") + QChar(0x202e) + "2"
                                << "1‹U+202E›2";

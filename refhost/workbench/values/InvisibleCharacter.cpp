@@ -6,21 +6,20 @@
 
 namespace {
 
-constexpr uint controlPictures = 0x2400; ///< a picture for each control character below the space
-
+/// Names where few fonts have a picture.
 const QHash<uint, QString> &signsOfTheirOwn()
 {
     static const QHash<uint, QString> own{
-        {0x09, QStringLiteral("⇥")},       {0x0a, QStringLiteral("↵")},
-        {0x0d, QStringLiteral("←")}, // fonts have it, unlike the picture
-        {0x7f, QStringLiteral("␡")},       {0xa0, QStringLiteral("⍽")},
-        {0xad, QStringLiteral("SHY")},     {0x200b, QStringLiteral("ZWSP")},
-        {0x200c, QStringLiteral("ZWNJ")},  {0x200d, QStringLiteral("ZWJ")},
-        {0x200e, QStringLiteral("LRM")},   {0x200f, QStringLiteral("RLM")},
-        {0x2028, QStringLiteral("LS")},    {0x2029, QStringLiteral("PS")},
-        {0x202f, QStringLiteral("NNBSP")}, {0x2060, QStringLiteral("WJ")},
-        {0x3000, QStringLiteral("□")},     {0xfeff, QStringLiteral("BOM")},
-        {0xfffc, QStringLiteral("OBJ")},
+        {0x00, QStringLiteral("NUL")},    {0x09, QStringLiteral("⇥")},
+        {0x0a, QStringLiteral("↵")},      {0x0d, QStringLiteral("←")},
+        {0x1b, QStringLiteral("ESC")},    {0x7f, QStringLiteral("DEL")},
+        {0xa0, QStringLiteral("⍽")},      {0xad, QStringLiteral("SHY")},
+        {0x200b, QStringLiteral("ZWSP")}, {0x200c, QStringLiteral("ZWNJ")},
+        {0x200d, QStringLiteral("ZWJ")},  {0x200e, QStringLiteral("LRM")},
+        {0x200f, QStringLiteral("RLM")},  {0x2028, QStringLiteral("LS")},
+        {0x2029, QStringLiteral("PS")},   {0x202f, QStringLiteral("NNBSP")},
+        {0x2060, QStringLiteral("WJ")},   {0x3000, QStringLiteral("□")},
+        {0xfeff, QStringLiteral("BOM")},  {0xfffc, QStringLiteral("OBJ")},
     };
     return own;
 }
@@ -69,7 +68,5 @@ QString invisibleSign(QStringView character)
     const auto found = signsOfTheirOwn().constFind(code);
     if (found != signsOfTheirOwn().cend())
         return *found;
-    if (code < ' ')
-        return QString(QChar(controlPictures + code));
     return QStringLiteral("U+%1").arg(code, 4, 16, QLatin1Char('0')).toUpper();
 }

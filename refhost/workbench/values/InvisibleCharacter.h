@@ -11,6 +11,6 @@
 /// there is an ordinary one.
 int invisibleSize(QStringView text, int index);
 
-/// The sign for an invisible character: one unit such as "↵" for a line feed, "⇥" for a tabulator
-/// and "␀", or else a name such as "ZWSP" or "U+D83D".
+/// The sign for an invisible character: one unit such as "↵" for a line feed and "⇥" for a
+/// tabulator, or else a name such as "ZWSP" or "U+D83D".
 QString invisibleSign(QStringView character);
