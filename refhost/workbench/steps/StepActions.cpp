@@ -51,7 +51,7 @@ void StepActions::createActions()
                QKeySequence::Delete, &StepActions::remove);
     m_selectAll = create(QStringLiteral("steps.selectAll"), tr("全选(&S)"), QStringLiteral("list"),
                          QKeySequence::SelectAll, &StepActions::selectAll);
-    m_moveUp = create(QStringLiteral("steps.moveUp"), tr("上移(&U)"), QStringLiteral("up"),
+    m_moveUp = create(QStringLiteral("steps.moveUp"), tr("上移(&M)"), QStringLiteral("up"),
                       Qt::ALT + Qt::Key_Up, &StepActions::moveUp);
     m_moveDown = create(QStringLiteral("steps.moveDown"), tr("下移(&O)"), QStringLiteral("down"),
                         Qt::ALT + Qt::Key_Down, &StepActions::moveDown);
