@@ -1,7 +1,7 @@
 #include "refhost/workbench/editor/RemarkLine.h"
 
 #include "refhost/workbench/look/Shades.h"
-#include "refhost/workbench/look/SymbolIcon.h"
+#include "refhost/workbench/look/SymbolPixmap.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -108,5 +108,5 @@ void RemarkLine::showColors()
     const int size = m_text->fontMetrics().height();
     m_icon->setVisible(!name.isEmpty());
     if (!name.isEmpty())
-        m_icon->setPixmap(symbolIcon(name).pixmap(window()->windowHandle(), QSize(size, size)));
+        m_icon->setPixmap(symbolPixmap(name, color, size, devicePixelRatioF()));
 }
