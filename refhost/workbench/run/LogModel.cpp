@@ -35,7 +35,9 @@ QVariant LogModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         return cellText(line, index.column());
     case Qt::ToolTipRole:
-        return shownToolTip(index.column() == WritesColumn ? line.writes : line.text);
+        return shownToolTip(index.column() == WritesColumn && line.kind == LogLine::Kind::Step
+                                ? line.writes
+                                : line.text);
     case Qt::DecorationRole:
         return index.column() == TextColumn ? decoration(line) : QVariant();
     case Qt::TextAlignmentRole:

@@ -3,6 +3,7 @@
 #include "refhost/workbench/look/SymbolIcon.h"
 #include "refhost/workbench/run/LogFilter.h"
 #include "refhost/workbench/run/LogModel.h"
+#include "refhost/workbench/run/LogView.h"
 #include "refhost/workbench/run/RunChronicle.h"
 #include "refhost/workbench/run/WarningPlace.h"
 #include "refhost/workbench/window/Workbench.h"
@@ -20,7 +21,6 @@
 #include <QSaveFile>
 #include <QScrollBar>
 #include <QToolButton>
-#include <QTreeView>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -55,10 +55,9 @@ LogPanel::LogPanel(Workbench &bench, QWidget *parent)
 
 void LogPanel::createView()
 {
-    m_view = new QTreeView(this);
+    m_view = new LogView(*m_log, *m_shown, this);
     m_view->setObjectName(QStringLiteral("log.table"));
     m_view->setAccessibleName(tr("日志"));
-    m_view->setModel(m_shown);
     m_view->setFrameShape(QFrame::NoFrame);
     m_view->setRootIsDecorated(false);
     m_view->setUniformRowHeights(true);

@@ -5,8 +5,8 @@
 
 class LogFilter;
 class LogModel;
+class LogView;
 class QCheckBox;
-class QTreeView;
 class RunChronicle;
 struct LogLine;
 struct Workbench;
@@ -41,6 +41,6 @@ private:
     RunChronicle *m_chronicle;
     LogModel *m_log;
     LogFilter *m_shown;
-    QTreeView *m_view = nullptr;
+    LogView *m_view = nullptr;
     QTimer m_flushTimer; ///< a run is too quick to show every step at once
 };
