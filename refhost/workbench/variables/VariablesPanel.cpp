@@ -24,7 +24,7 @@
 namespace {
 
 constexpr int nameColumns = 14; ///< widths in those of "x"
-constexpr int typeColumns = 12;
+constexpr int typeColumns = 10;
 
 } // namespace
 

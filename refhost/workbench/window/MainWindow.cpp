@@ -13,6 +13,7 @@
 #include "refhost/workbench/variables/VariablesPanel.h"
 #include "refhost/workbench/window/AboutText.h"
 #include "refhost/workbench/window/EditActions.h"
+#include "refhost/workbench/window/PanelFocus.h"
 #include "refhost/workbench/window/StatusLine.h"
 #include "refhost/workbench/window/ViewMenu.h"
 #include "refhost/workbench/window/Workbench.h"
@@ -23,6 +24,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QScreen>
 #include <QSettings>
 #include <QToolBar>
 
@@ -36,6 +38,13 @@ QString geometryKey()
 QString layoutKey()
 {
     return QStringLiteral("window/layout");
+}
+
+/// Most of the screen, but not more than is of use.
+QSize firstSize(const QWidget &window)
+{
+    constexpr QSize most(1500, 950);
+    return (window.screen()->availableSize() * 4 / 5).boundedTo(most);
 }
 
 } // namespace
@@ -60,7 +69,8 @@ void MainWindow::rememberLayout()
 {
     m_remembers = true;
     const QSettings settings(settingsFile(), QSettings::IniFormat);
-    restoreGeometry(settings.value(geometryKey()).toByteArray());
+    if (!restoreGeometry(settings.value(geometryKey()).toByteArray()))
+        resize(firstSize(*this));
     restoreState(settings.value(layoutKey()).toByteArray());
 }
 
@@ -93,7 +103,8 @@ QDockWidget *MainWindow::addDock(const QString &name, const QString &title, QWid
     dock->setObjectName(QStringLiteral("dock.") + name);
     dock->setWidget(panel);
     addDockWidget(area, dock);
-    m_view->addPanel(dock->toggleViewAction());
+    m_view->addSwitch(dock->toggleViewAction());
+    m_view->addPanel(title, panel);
     return dock;
 }
 
@@ -101,33 +112,50 @@ void MainWindow::createPanels()
 {
     setDockOptions(AnimatedDocks | AllowNestedDocks | AllowTabbedDocks);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    // Before the panels hear of it: what is not shown cannot take the focus.
+    connect(&m_bench.place, &CurrentPlace::wanted, this, &MainWindow::showPlace);
     m_steps = new StepsPanel(m_bench, this);
     m_variables = new VariablesPanel(m_bench, this);
+    m_editor = new EditorPanel(m_bench, this);
     m_bench.pending.add(m_variables, [this] { return m_variables->commitEditing(); });
     setCentralWidget(m_steps);
-    auto *const catalogPanel = new CatalogPanel(m_bench, this);
-    QDockWidget *const catalog =
-        addDock(QStringLiteral("catalog"), tr("操作"), catalogPanel, Qt::LeftDockWidgetArea);
-    QDockWidget *const editor = addDock(QStringLiteral("editor"), tr("编辑步骤"),
-                                        new EditorPanel(m_bench, this), Qt::RightDockWidgetArea);
-    QDockWidget *const operands =
-        addDock(QStringLiteral("operands"), tr("上次运行"), new OperandsPanel(m_bench, this),
-                Qt::RightDockWidgetArea);
-    QDockWidget *const variables =
+    auto *const catalog = new CatalogPanel(m_bench, this);
+    connect(m_steps, &StepsPanel::catalogWanted, catalog, &CatalogPanel::focusFilter);
+    m_docks.catalog =
+        addDock(QStringLiteral("catalog"), tr("操作"), catalog, Qt::LeftDockWidgetArea);
+    m_view->addPanel(tr("步骤"), m_steps);
+    m_docks.editor =
+        addDock(QStringLiteral("editor"), tr("编辑步骤"), m_editor, Qt::RightDockWidgetArea);
+    m_docks.variables =
         addDock(QStringLiteral("variables"), tr("变量"), m_variables, Qt::BottomDockWidgetArea);
-    QDockWidget *const log = addDock(QStringLiteral("log"), tr("日志"), new LogPanel(m_bench, this),
-                                     Qt::BottomDockWidgetArea);
+    m_docks.log = addDock(QStringLiteral("log"), tr("日志"), new LogPanel(m_bench, this),
+                          Qt::BottomDockWidgetArea);
     QDockWidget *const findings =
         addDock(QStringLiteral("findings"), tr("检查"), new FindingsPanel(m_bench, this),
                 Qt::BottomDockWidgetArea);
-    connect(m_steps, &StepsPanel::catalogWanted, catalogPanel, &CatalogPanel::focusFilter);
-    tabifyDockWidget(log, findings);
-    log->raise();
+    m_docks.operands = addDock(QStringLiteral("operands"), tr("上次运行"),
+                               new OperandsPanel(m_bench, this), Qt::RightDockWidgetArea);
+    tabifyDockWidget(m_docks.log, findings);
+    m_docks.log->raise();
+    shareOutDocks();
+}
+
+/// Gives the docks their first sizes.
+void MainWindow::shareOutDocks()
+{
     const int unit = fontMetrics().height();
-    resizeDocks({catalog, editor}, {13 * unit, 24 * unit}, Qt::Horizontal);
-    resizeDocks({variables}, {14 * unit}, Qt::Vertical);
-    resizeDocks({variables, log}, {30 * unit, 24 * unit}, Qt::Horizontal);
-    resizeDocks({editor, operands}, {34 * unit, 14 * unit}, Qt::Vertical);
+    resizeDocks({m_docks.catalog, m_docks.editor}, {15 * unit, 24 * unit}, Qt::Horizontal);
+    resizeDocks({m_docks.variables}, {14 * unit}, Qt::Vertical);
+    resizeDocks({m_docks.variables, m_docks.log}, {30 * unit, 24 * unit}, Qt::Horizontal);
+    resizeDocks({m_docks.editor, m_docks.operands}, {34 * unit, 14 * unit}, Qt::Vertical);
+}
+
+void MainWindow::showPlace(const EditPlace &place)
+{
+    if (place.variable != 0)
+        showPanel(*m_variables);
+    else if (!place.property.isEmpty())
+        showPanel(*m_editor);
 }
 
 void MainWindow::createMenus()
@@ -155,7 +183,7 @@ void MainWindow::addToolBarOf(const QString &name, const QString &title,
     QToolBar *const bar = addToolBar(title);
     bar->setObjectName(QStringLiteral("bar.") + name);
     bar->addActions(actions);
-    m_view->addPanel(bar->toggleViewAction());
+    m_view->addSwitch(bar->toggleViewAction());
 }
 
 void MainWindow::showAbout()

@@ -2,12 +2,14 @@
 
 #include <QMainWindow>
 
+class EditorPanel;
 class FileActions;
 class RunActions;
 class StatusLine;
 class StepsPanel;
 class VariablesPanel;
 class ViewMenu;
+struct EditPlace;
 struct Workbench;
 
 /// The window: the steps in the middle, the other panels docked around them.
@@ -33,6 +35,8 @@ private:
                          Qt::DockWidgetArea area);
     void connectMessages();
     void createPanels();
+    void shareOutDocks();
+    void showPlace(const EditPlace &place);
     void createMenus();
     void addToolBarOf(const QString &name, const QString &title, const QList<QAction *> &actions);
     void showAbout();
@@ -44,5 +48,14 @@ private:
     StatusLine *m_status;
     StepsPanel *m_steps = nullptr;
     VariablesPanel *m_variables = nullptr;
+    EditorPanel *m_editor = nullptr;
+    struct
+    {
+        QDockWidget *catalog = nullptr;
+        QDockWidget *editor = nullptr;
+        QDockWidget *operands = nullptr;
+        QDockWidget *variables = nullptr;
+        QDockWidget *log = nullptr;
+    } m_docks; ///< those with sizes of their own
     bool m_remembers = false;
 };

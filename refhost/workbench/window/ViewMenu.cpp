@@ -2,21 +2,32 @@
 
 #include "refhost/workbench/look/Appearance.h"
 #include "refhost/workbench/look/Remembered.h"
+#include "refhost/workbench/window/PanelFocus.h"
 
 #include <QActionGroup>
 #include <QApplication>
 
 ViewMenu::ViewMenu(QWidget *parent)
     : QMenu(tr("视图(&V)"), parent)
-    , m_panelsEnd(addSeparator())
+    , m_switchesEnd(addSeparator())
+    , m_panels(addMenu(tr("转到面板(&G)")))
 {
+    addSeparator();
     addAppearances();
     addLanguages();
 }
 
-void ViewMenu::addPanel(QAction *toggle)
+void ViewMenu::addSwitch(QAction *toggle)
 {
-    insertAction(m_panelsEnd, toggle);
+    insertAction(m_switchesEnd, toggle);
+}
+
+void ViewMenu::addPanel(const QString &title, QWidget *panel)
+{
+    QAction *const action = m_panels->addAction(title, panel, [panel] { goToPanel(*panel); });
+    const int number = m_panels->actions().size();
+    action->setObjectName(QStringLiteral("view.panel%1").arg(number));
+    action->setShortcut(Qt::CTRL + Qt::Key_0 + number);
 }
 
 void ViewMenu::addAppearances()

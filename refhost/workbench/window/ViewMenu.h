@@ -11,7 +11,10 @@ public:
     explicit ViewMenu(QWidget *parent = nullptr);
 
     /// Puts the switch of a panel or tool bar before the rest.
-    void addPanel(QAction *toggle);
+    void addSwitch(QAction *toggle);
+    /// Adds a way to go to the panel by the keyboard: Ctrl+1 for the first, and so on. The panel
+    /// has to outlive the menu.
+    void addPanel(const QString &title, QWidget *panel);
 
 Q_SIGNALS:
     /// The language of the next window is another one.
@@ -21,5 +24,6 @@ private:
     void addAppearances();
     void addLanguages();
 
-    QAction *m_panelsEnd;
+    QAction *m_switchesEnd;
+    QMenu *m_panels;
 };
