@@ -21,6 +21,7 @@ private Q_SLOTS:
     void showsAllProperties_data();
     void showsAllProperties();
     void typingIsOneStepOfUndo();
+    void undoBringsBackWhatWasRemoved();
     void leavingEndsTyping();
     void undoFromWithinAField();
     void undoFromTheMenuOfAField();
@@ -118,6 +119,28 @@ void EditorPanelTest::typingIsOneStepOfUndo()
     m_bench->bench.document.redo();
     QCOMPARE(m_bench->text("sourceText")->text(), QString("abc"));
     QCOMPARE(m_bench->bench.document.undoStack().count(), 1);
+}
+
+void EditorPanelTest::undoBringsBackWhatWasRemoved()
+{
+    m_bench->open("text.append");
+    ExactTextEdit *const field = m_bench->text("sourceText");
+    const auto undone = [this] {
+        m_bench->bench.document.undo();
+        return m_bench->get("sourceText").toString();
+    };
+    QTest::keyClicks(field, "a long text");
+    QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(field, Qt::Key_Delete);
+    QCOMPARE(undone(), QString("a long text"));
+    QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(field, "another");
+    QTest::keyClick(field, Qt::Key_Backspace);
+    QTest::keyClick(field, Qt::Key_Backspace);
+    QCOMPARE(undone(), QString("another"));
+    // What takes the place of another text is one change with it.
+    QCOMPARE(undone(), QString("a long text"));
+    QCOMPARE(undone(), QString());
 }
 
 void EditorPanelTest::leavingEndsTyping()

@@ -107,7 +107,7 @@ void EditorVariableNameTest::typesAnyText()
     QTest::keyClick(field("resultVar"), Qt::Key_Return);
     QCOMPARE(m_bench->get("resultVar").toString(), QString("ebra"));
     QCOMPARE(field("resultVar")->count(), 3);
-    QCOMPARE(m_bench->bench.document.undoStack().count(), 1);
+    QCOMPARE(m_bench->bench.document.undoStack().count(), 2);
 }
 
 void EditorVariableNameTest::keepsTheCursorAtANameOfTheList()

@@ -96,10 +96,16 @@ void StepForm::setValue(const PropertyEditor &editor, const QVariant &value, boo
     const TaskState next = m_document.state().withProperty(m_step, schema.name, value);
     const QString text = tr("编辑“%1”").arg(editor.title());
     const EditPlace place{m_step, schema.name, 0};
-    if (typing)
-        m_document.type(text, next, place);
-    else
+    if (!typing) {
+        m_typing.end();
         m_document.change(text, next, place);
+        return;
+    }
+    const Operation &step = *m_document.state().step(m_step)->operation;
+    const QVariant before = step.property(schema.name.toUtf8().constData());
+    if (!m_typing.takesIn(before.toString(), value.toString()))
+        m_document.endTyping();
+    m_document.type(text, next, place);
 }
 
 void StepForm::declare(const PropertyEditor &editor, const TaskVariable &variable,

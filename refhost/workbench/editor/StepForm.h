@@ -2,6 +2,7 @@
 
 #include "refhost/engine/Task.h"
 #include "refhost/engine/check/Finding.h"
+#include "refhost/workbench/editor/TypingRun.h"
 
 #include <QList>
 #include <QWidget>
@@ -44,5 +45,6 @@ private:
     const QMetaObject *m_class;
     QString m_typeId;
     int m_step = 0;
+    TypingRun m_typing;
     QList<PropertyEditor *> m_editors;
 };
