@@ -1,8 +1,10 @@
 #include "refhost/workbench/run/OperandsPanel.h"
 
+#include "refhost/workbench/look/Shades.h"
 #include "tests/support/QuietTest.h"
 #include "tests/workbench/support/RunBench.h"
 
+#include <QApplication>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QLabel>
@@ -26,6 +28,7 @@ private Q_SLOTS:
     void tellsThatAStepWasEdited();
     void leadsToFieldsAndVariables();
     void copiesAWholeValue();
+    void followsThePalette();
 
 private:
     QString status() const { return m_panel->findChild<QLabel *>("operands.status")->text(); }
@@ -174,6 +177,23 @@ void OperandsPanelTest::copiesAWholeValue()
     m_view->setCurrentItem(item("原文本"));
     QTest::keyClick(m_view, Qt::Key_C, Qt::ControlModifier);
     QVERIFY(QGuiApplication::clipboard()->text() == large);
+}
+
+void OperandsPanelTest::followsThePalette()
+{
+    m_bench->bench.place.setStep(
+        m_bench->addStep("text.append", {{"sourceText", "b"}, {"resultVar", "gone"}}));
+    QVERIFY(m_bench->runs());
+    settle();
+    const auto colour = [this] { return m_view->topLevelItem(1)->child(0)->foreground(0).color(); };
+    const QPalette before = QGuiApplication::palette();
+    QCOMPARE(colour(), Shades::of(before).warning);
+    QPalette dark(Qt::darkGray, Qt::black);
+    dark.setColor(QPalette::Base, Qt::black);
+    QVERIFY(Shades::of(dark).warning != Shades::of(before).warning);
+    QApplication::setPalette(dark);
+    QTRY_COMPARE(colour(), Shades::of(dark).warning);
+    QApplication::setPalette(before);
 }
 
 QTEST_MAIN(OperandsPanelTest)

@@ -40,7 +40,7 @@ void FindingsPanel::setUpView()
     const QFontMetrics metrics = m_view->fontMetrics();
     m_view->header()->resizeSection(FindingsModel::NumberColumn,
                                     metrics.horizontalAdvance(tr("步骤")) * 2);
-    m_view->header()->resizeSection(FindingsModel::PlaceColumn, metrics.averageCharWidth() * 28);
+    m_view->header()->resizeSection(FindingsModel::PlaceColumn, metrics.averageCharWidth() * 22);
     connect(m_view, &QTreeView::clicked, this, &FindingsPanel::goToFinding);
     connect(m_view, &QTreeView::activated, this, &FindingsPanel::goToFinding);
     connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this,

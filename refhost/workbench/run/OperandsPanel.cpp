@@ -96,6 +96,14 @@ void OperandsPanel::createView()
     connect(m_view, &QTreeWidget::itemActivated, this, &OperandsPanel::goToItem);
 }
 
+/// Rows keep the colours they are made with.
+void OperandsPanel::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && m_view)
+        scheduleUpdate();
+}
+
 /// Several things change at once when a run halts.
 void OperandsPanel::scheduleUpdate()
 {
@@ -109,6 +117,8 @@ void OperandsPanel::update()
     m_isLate = false;
     const StepRecord *const record = m_bench.run.lastRecord(m_bench.place.step());
     m_status->setText(statusText(record));
+    m_status->setAlignment(record ? Qt::AlignLeading | Qt::AlignVCenter : Qt::AlignCenter);
+    m_status->setForegroundRole(record ? QPalette::WindowText : QPalette::PlaceholderText);
     m_view->setVisible(record != nullptr);
     m_view->clear();
     if (record)

@@ -18,6 +18,9 @@ public:
     /// The workbench has to outlive the panel.
     explicit OperandsPanel(Workbench &bench, QWidget *parent = nullptr);
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     void createView();
     void scheduleUpdate();

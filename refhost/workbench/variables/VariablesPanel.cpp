@@ -81,6 +81,13 @@ bool VariablesPanel::commitEditing()
     return m_table->commitEditing();
 }
 
+void VariablesPanel::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && !m_remark->isHidden())
+        remark(m_remark->text());
+}
+
 void VariablesPanel::setUpTable()
 {
     m_table->setObjectName(QStringLiteral("variables.table"));
@@ -97,6 +104,7 @@ void VariablesPanel::setUpTable()
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     header->resizeSection(VariableModel::NameColumn, unit * nameColumns);
     header->resizeSection(VariableModel::TypeColumn, unit * typeColumns);
+    // The values share what is left, so that none is out of sight.
     for (const int column : {VariableModel::StartColumn, VariableModel::CurrentColumn})
         header->setSectionResizeMode(column, QHeaderView::Stretch);
     connect(m_table, &CellTable::openWanted, this, &VariablesPanel::openValue);

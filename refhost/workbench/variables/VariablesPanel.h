@@ -36,6 +36,9 @@ public:
     /// with the reason beside it.
     bool commitEditing();
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     template <typename Slot>
     QAction *addAction(const QString &name, const QString &symbol, const QString &text,
