@@ -45,6 +45,8 @@ private Q_SLOTS:
     void keepsTheSelectionWhenAnotherEndOfItBecomesCurrent();
     void openingSelectsOneStep();
     void scrollsToAWantedStep();
+    void scrollsToWhereTheRunHalts();
+    void marksTheCurrentStepWithoutSelection();
     void reordersByDrop_data();
     void reordersByDrop();
     void dropsAnOperation();
@@ -461,6 +463,31 @@ void StepsPanelTest::scrollsToAWantedStep()
     m_steps->bench.place.goTo({m_steps->id(150), {}, 0});
     QVERIFY(
         m_view->viewport()->rect().contains(m_view->visualRect(m_view->model()->index(150, 0))));
+}
+
+void StepsPanelTest::scrollsToWhereTheRunHalts()
+{
+    QStringList sources;
+    for (int i = 0; i < 100; ++i)
+        sources.append("x");
+    m_steps->open(sources);
+    const QModelIndex last = m_view->model()->index(99, 0);
+    QVERIFY(!m_view->viewport()->rect().intersects(m_view->visualRect(last)));
+    m_steps->bench.run.runTo(m_steps->id(99));
+    QTRY_COMPARE(m_steps->bench.run.state(), RunSession::State::Paused);
+    QVERIFY(m_view->viewport()->rect().contains(m_view->visualRect(last)));
+}
+
+void StepsPanelTest::marksTheCurrentStepWithoutSelection()
+{
+    select({});
+    m_view->selectionModel()->setCurrentIndex(m_view->model()->index(2, 0),
+                                              QItemSelectionModel::NoUpdate);
+    const QRect row = m_view->visualRect(m_view->model()->index(2, 0));
+    const QImage with = m_view->viewport()->grab(row).toImage();
+    m_view->selectionModel()->setCurrentIndex(m_view->model()->index(3, 0),
+                                              QItemSelectionModel::NoUpdate);
+    QVERIFY(with != m_view->viewport()->grab(row).toImage());
 }
 
 void StepsPanelTest::reordersByDrop_data()

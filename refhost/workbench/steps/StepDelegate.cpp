@@ -115,6 +115,9 @@ void paintBackground(QPainter &painter, const QStyleOptionViewItem &option,
         return;
     QStyleOptionFocusRect focus;
     focus.QStyleOption::operator=(item);
+    // Else styles show it only after the tabulator has been used.
+    focus.state |= QStyle::State_KeyboardFocusChange;
+    focus.backgroundColor = option.palette.color(QPalette::Base);
     style.drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, option.widget);
 }
 

@@ -91,6 +91,7 @@ void StepsPanel::connectSelection()
         QItemSelectionModel &selection = *m_view->selectionModel();
         selection.select(selection.currentIndex(), QItemSelectionModel::ClearAndSelect);
     });
+    connect(&m_bench.run, &RunSession::stateChanged, this, &StepsPanel::showHalt);
     showStep(m_bench.place.step());
 }
 
@@ -121,6 +122,14 @@ void StepsPanel::showPlace(const EditPlace &place)
     const QModelIndex index = model->index(model->rowOfId(place.step), 0);
     if (index.isValid())
         m_view->scrollTo(index);
+}
+
+/// A run that halts says where, also when it went far.
+void StepsPanel::showHalt()
+{
+    const auto *const model = static_cast<const StepModel *>(m_view->model());
+    if (m_bench.run.state() == RunSession::State::Paused)
+        m_view->scrollTo(model->index(model->rowOfId(m_bench.run.nextStep()), 0));
 }
 
 /// Steps that come, be it by an undo, are selected.

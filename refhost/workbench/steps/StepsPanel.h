@@ -33,6 +33,7 @@ private:
     void takeCurrent(const QModelIndex &current);
     void showStep(int step);
     void showPlace(const EditPlace &place);
+    void showHalt();
     void followDocument(const TaskState &before);
     void showMenu(const QPoint &position);
 
