@@ -40,11 +40,13 @@ QString layoutKey()
     return QStringLiteral("window/layout");
 }
 
-/// Most of the screen, but not more than is of use.
+/// Most of the screen, but not more than is of use; of a small one all.
 QSize firstSize(const QWidget &window)
 {
     constexpr QSize most(1500, 950);
-    return (window.screen()->availableSize() * 4 / 5).boundedTo(most);
+    constexpr QSize comfortable(1150, 750);
+    const QSize screen = window.screen()->availableSize();
+    return (screen * 4 / 5).expandedTo(comfortable).boundedTo(most).boundedTo(screen);
 }
 
 } // namespace
