@@ -32,6 +32,7 @@ private Q_SLOTS:
     void copiesTheSelectedLines();
     void savesTheLines();
     void clears();
+    void comesInAtTheLastLine();
     void followsTheLastLine();
     void isQuickWithManyLines();
     void shortensLongLines();
@@ -196,6 +197,18 @@ void LogPanelTest::savesTheLines()
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(QString::fromUtf8(file.readAll()).count('\n'), 5);
     QVERIFY(!m_panel->save(folder.filePath("no/such/folder/log.txt")));
+}
+
+void LogPanelTest::comesInAtTheLastLine()
+{
+    m_view->clearFocus();
+    for (int i = 0; i < 100; ++i)
+        m_bench->addAppend("a");
+    QVERIFY(m_bench->runs());
+    QTRY_COMPARE(m_view->model()->rowCount(), 102);
+    m_view->setFocus(Qt::TabFocusReason);
+    QCOMPARE(m_view->currentIndex().row(), 101);
+    QVERIFY(m_view->viewport()->rect().contains(m_view->visualRect(m_view->currentIndex())));
 }
 
 void LogPanelTest::clears()

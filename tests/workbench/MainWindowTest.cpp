@@ -28,12 +28,21 @@ private Q_SLOTS:
     void goesBackToTheSameField();
     void opensThePanelOfAPlace();
     void hasEachMnemonicOnce();
+    void reachesEachPanelByTheTabulator_data();
+    void reachesEachPanelByTheTabulator();
 
 private:
     QWidget *find(const QString &name) const { return m_window->findChild<QWidget *>(name); }
     void press(int key)
     {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), Qt::ControlModifier);
+    }
+
+    /// Docks behind others are outside of the window.
+    bool isInSight(const QWidget &widget) const
+    {
+        const QRect place(widget.mapTo(m_window.get(), QPoint()), widget.size());
+        return m_window->rect().intersects(place);
     }
 
     std::unique_ptr<StepsFixture> m_fixture;
@@ -121,6 +130,35 @@ void MainWindowTest::hasEachMnemonicOnce()
             seen.insert(letter);
         }
     }
+}
+
+void MainWindowTest::reachesEachPanelByTheTabulator_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::newRow("forwards") << int(Qt::Key_Tab);
+    QTest::newRow("backwards") << int(Qt::Key_Backtab);
+}
+
+void MainWindowTest::reachesEachPanelByTheTabulator()
+{
+    QFETCH(int, key);
+    const QStringList wanted{"catalog.filter",    "catalog.tree",     "steps.list",
+                             "editor.sourceText", "editor.resultVar", "variables.table",
+                             "log.table",         "operands.table"};
+    m_fixture->bench.run.stepOver();
+    QTRY_COMPARE(m_fixture->bench.run.state(), RunSession::State::Paused);
+    QTRY_VERIFY(find("operands.table")->isVisible());
+    QStringList reached;
+    for (int i = 0; i < 60; ++i) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key(key));
+        const QString name = QApplication::focusWidget()->objectName();
+        QTRY_VERIFY2(isInSight(*QApplication::focusWidget()), qPrintable(name));
+        reached.append(name);
+        if (name == "steps.list")
+            break;
+    }
+    for (const QString &name : wanted)
+        QVERIFY2(reached.contains(name), qPrintable(name + " / " + reached.join(' ')));
 }
 
 QTEST_MAIN(MainWindowTest)

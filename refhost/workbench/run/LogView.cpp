@@ -3,6 +3,7 @@
 #include "refhost/workbench/run/LogFilter.h"
 #include "refhost/workbench/run/LogModel.h"
 
+#include <QFocusEvent>
 #include <QHeaderView>
 #include <QPainter>
 
@@ -38,4 +39,14 @@ void LogView::drawRow(QPainter *painter, const QStyleOptionViewItem &options,
     const int textLeft = columnViewportPosition(LogModel::TextColumn);
     cell(LogModel::NumberColumn, row.rect.left(), textLeft - 1);
     cell(LogModel::TextColumn, textLeft, row.rect.right());
+}
+
+/// The keyboard comes in at the last line, which is the one in sight.
+void LogView::focusInEvent(QFocusEvent *event)
+{
+    const int rows = model()->rowCount();
+    if (rows > 0 && !currentIndex().isValid() && event->reason() != Qt::MouseFocusReason)
+        selectionModel()->setCurrentIndex(model()->index(rows - 1, 0),
+                                          QItemSelectionModel::NoUpdate);
+    QTreeView::focusInEvent(event);
 }

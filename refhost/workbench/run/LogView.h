@@ -18,6 +18,7 @@ public:
 protected:
     void drawRow(QPainter *painter, const QStyleOptionViewItem &options,
                  const QModelIndex &index) const override;
+    void focusInEvent(QFocusEvent *event) override;
 
 private:
     const LogModel &m_log;

@@ -19,6 +19,7 @@
 #include "refhost/workbench/window/Workbench.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QMenu>
@@ -65,6 +66,7 @@ MainWindow::MainWindow(Workbench &bench, QWidget *parent)
     createPanels();
     createMenus();
     connectMessages();
+    connect(qApp, &QApplication::focusChanged, this, &MainWindow::showFocus);
 }
 
 void MainWindow::rememberLayout()
@@ -116,12 +118,13 @@ void MainWindow::createPanels()
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     // Before the panels hear of it: what is not shown cannot take the focus.
     connect(&m_bench.place, &CurrentPlace::wanted, this, &MainWindow::showPlace);
+    // The tabulator goes from panel to panel in the order in which they are made.
+    auto *const catalog = new CatalogPanel(m_bench, this);
     m_steps = new StepsPanel(m_bench, this);
     m_variables = new VariablesPanel(m_bench, this);
     m_editor = new EditorPanel(m_bench, this);
     m_bench.pending.add(m_variables, [this] { return m_variables->commitEditing(); });
     setCentralWidget(m_steps);
-    auto *const catalog = new CatalogPanel(m_bench, this);
     connect(m_steps, &StepsPanel::catalogWanted, catalog, &CatalogPanel::focusFilter);
     m_docks.catalog =
         addDock(QStringLiteral("catalog"), tr("操作"), catalog, Qt::LeftDockWidgetArea);
@@ -150,6 +153,17 @@ void MainWindow::shareOutDocks()
     resizeDocks({m_docks.variables}, {14 * unit}, Qt::Vertical);
     resizeDocks({m_docks.variables, m_docks.log}, {30 * unit, 24 * unit}, Qt::Horizontal);
     resizeDocks({m_docks.editor, m_docks.operands}, {34 * unit, 14 * unit}, Qt::Vertical);
+}
+
+/// A dock behind another one takes the focus from the tabulator, and would keep it out of sight.
+void MainWindow::showFocus(const QWidget *old, QWidget *now)
+{
+    Q_UNUSED(old)
+    for (QWidget *widget = now; widget; widget = widget->parentWidget()) {
+        auto *const dock = qobject_cast<QDockWidget *>(widget);
+        if (dock && !tabifiedDockWidgets(dock).isEmpty())
+            dock->raise();
+    }
 }
 
 void MainWindow::showPlace(const EditPlace &place)

@@ -36,6 +36,7 @@ private:
     void connectMessages();
     void createPanels();
     void shareOutDocks();
+    void showFocus(const QWidget *old, QWidget *now);
     void showPlace(const EditPlace &place);
     void createMenus();
     void addToolBarOf(const QString &name, const QString &title, const QList<QAction *> &actions);

@@ -1,5 +1,6 @@
 #include "refhost/workbench/window/PanelFocus.h"
 
+#include <QAbstractItemView>
 #include <QDockWidget>
 
 namespace {
@@ -44,6 +45,10 @@ void goToPanel(QWidget &panel)
 {
     showPanel(panel);
     panel.activateWindow();
-    if (QWidget *const target = targetIn(panel))
-        target->setFocus(Qt::ShortcutFocusReason);
+    QWidget *const target = targetIn(panel);
+    if (!target)
+        return;
+    target->setFocus(Qt::ShortcutFocusReason);
+    if (auto *const view = qobject_cast<QAbstractItemView *>(target))
+        view->scrollTo(view->currentIndex());
 }
