@@ -617,6 +617,10 @@ The packed format can.</translation>
         <source>关于操作工作台</source>
         <translation>About Operation Workbench</translation>
     </message>
+    <message>
+        <source>步骤</source>
+        <translation>Steps</translation>
+    </message>
 </context>
 <context>
     <name>MessageLine</name>
@@ -1109,10 +1113,6 @@ The packed format can.</translation>
         <translation>&amp;Select all</translation>
     </message>
     <message>
-        <source>上移(&amp;U)</source>
-        <translation>&amp;Move up</translation>
-    </message>
-    <message>
         <source>下移(&amp;O)</source>
         <translation>M&amp;ove down</translation>
     </message>
@@ -1123,6 +1123,10 @@ The packed format can.</translation>
     <message>
         <source>运行到此处(&amp;R)</source>
         <translation>&amp;Run to here</translation>
+    </message>
+    <message>
+        <source>上移(&amp;M)</source>
+        <translation>&amp;Move up</translation>
     </message>
 </context>
 <context>
@@ -1659,6 +1663,10 @@ The packed format can.</translation>
     <message>
         <source>深色(&amp;D)</source>
         <translation>&amp;Dark</translation>
+    </message>
+    <message>
+        <source>转到面板(&amp;G)</source>
+        <translation>&amp;Go to panel</translation>
     </message>
 </context>
 <context>
