@@ -100,7 +100,8 @@ void FindingsPanelTest::explainsTheCurrentOne()
     click(0);
     const Finding &finding = m_bench->bench.check.findings().first();
     QVERIFY(explanation->isVisible());
-    QCOMPARE(explanation->text(), finding.consequence + "\n" + finding.remedy);
+    QCOMPARE(explanation->text(),
+             QStringList({finding.message, finding.consequence, finding.remedy}).join("\n"));
 }
 
 void FindingsPanelTest::leadsToFieldsAndVariables()

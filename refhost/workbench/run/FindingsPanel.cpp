@@ -65,7 +65,9 @@ void FindingsPanel::explain(const QModelIndex &index)
     if (!index.isValid())
         return;
     const Finding &finding = m_model->finding(index.row());
-    m_explanation->setText(finding.consequence + QLatin1Char('\n') + finding.remedy);
+    // In the table the message may be cut off.
+    m_explanation->setText(
+        QStringList{finding.message, finding.consequence, finding.remedy}.join(QLatin1Char('\n')));
 }
 
 void FindingsPanel::goToFinding(const QModelIndex &index) const

@@ -27,7 +27,7 @@ void ViewMenu::addPanel(const QString &title, QWidget *panel)
     QAction *const action = m_panels->addAction(title, panel, [panel] { goToPanel(*panel); });
     const int number = m_panels->actions().size();
     action->setObjectName(QStringLiteral("view.panel%1").arg(number));
-    action->setShortcut(Qt::CTRL + Qt::Key_0 + number);
+    action->setShortcut(QKeySequence(QStringLiteral("Ctrl+%1").arg(number)));
 }
 
 void ViewMenu::addAppearances()
