@@ -38,19 +38,31 @@ QColor textColor(const QStyleOptionViewItem &option)
                                 isSelected(option) ? QPalette::HighlightedText : QPalette::Text);
 }
 
-/// Draws the detail at the end of the cell, and gives the rectangle that is left for the text.
+/// What of the detail fits into `width`: all of it, its number, or nothing; the tooltip has it all.
+QString fittingDetail(const QString &detail, const QFontMetrics &metrics, int width)
+{
+    for (const QString &text : {detail, detail.section(QLatin1Char(' '), 0, 0)}) {
+        if (metrics.horizontalAdvance(text) <= width)
+            return text;
+    }
+    return {};
+}
+
+/// Draws the detail at the end of the cell, in half of it at most, and gives the rectangle that is
+/// left for the text.
 QRect paintDetail(QPainter &painter, const QStyleOptionViewItem &option, const QString &detail)
 {
     QRect rect = inner(option);
     const QFontMetrics metrics(option.font);
     // Other fonts may stand in for some characters, so a little more than they say.
-    const int natural = metrics.horizontalAdvance(detail) + metrics.averageCharWidth() / 2;
-    const int width = qMin(natural, rect.width() / 2);
+    const int spare = metrics.averageCharWidth() / 2;
+    const QString text = fittingDetail(detail, metrics, rect.width() / 2 - spare);
+    if (text.isEmpty())
+        return rect;
     QRect end = rect;
-    end.setLeft(rect.right() - width + 1);
+    end.setLeft(rect.right() - metrics.horizontalAdvance(text) - spare + 1);
     painter.setPen(isSelected(option) ? textColor(option) : Shades::of(option.palette).quiet);
-    painter.drawText(end, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine,
-                     metrics.elidedText(detail, Qt::ElideRight, width));
+    painter.drawText(end, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, text);
     rect.setRight(end.left() - metrics.averageCharWidth());
     return rect;
 }

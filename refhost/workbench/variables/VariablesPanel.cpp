@@ -99,7 +99,7 @@ void VariablesPanel::setUpTable()
     m_table->setAlternatingRowColors(true);
     m_table->verticalHeader()->hide();
     QHeaderView *const header = m_table->horizontalHeader();
-    const int unit = fontMetrics().averageCharWidth();
+    const int unit = fontMetrics().horizontalAdvance(QLatin1Char('x'));
     header->setHighlightSections(false);
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     header->resizeSection(VariableModel::NameColumn, unit * nameColumns);
