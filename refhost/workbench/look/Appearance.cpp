@@ -1,6 +1,6 @@
 #include "refhost/workbench/look/Appearance.h"
 
-#include "refhost/workbench/look/FocusStyle.h"
+#include "refhost/workbench/look/WindowStyle.h"
 
 #include <QApplication>
 #include <QPalette>
@@ -76,7 +76,7 @@ bool applyAppearance(const QString &name)
 {
     const bool isOwn = name == lightName() || name == darkName();
     if (isOwn)
-        QApplication::setStyle(new FocusStyle);
+        QApplication::setStyle(new WindowStyle);
     else if (!QApplication::setStyle(name))
         return false;
     if (isOwn)

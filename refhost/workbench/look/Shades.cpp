@@ -5,8 +5,6 @@
 
 namespace {
 
-constexpr int middle = 128;
-
 const Shades onLight{QColor(0xb4, 0x23, 0x18), QColor(0xa1, 0x5c, 0x00), QColor(0x17, 0x5c, 0xd3),
                      QColor(0x0b, 0x5c, 0xad), QColor(0x66, 0x70, 0x85), QColor(0x98, 0xa2, 0xb3),
                      QColor(0xff, 0xf3, 0xc4), QColor(0xd9, 0xf2, 0xe1), QColor(0xd9, 0x2d, 0x20),
@@ -21,7 +19,7 @@ const Shades onDark{QColor(0xff, 0x8a, 0x80), QColor(0xff, 0xc1, 0x5e), QColor(0
 
 Shades Shades::of(const QPalette &palette)
 {
-    return palette.color(QPalette::Base).lightness() < middle ? onDark : onLight;
+    return isDark(palette) ? onDark : onLight;
 }
 
 QColor Shades::quietIn(const QStyleOptionViewItem &item)
@@ -31,4 +29,10 @@ QColor Shades::quietIn(const QStyleOptionViewItem &item)
     QColor color = item.palette.color(QPalette::HighlightedText);
     color.setAlphaF(0.8);
     return color;
+}
+
+bool isDark(const QPalette &palette)
+{
+    constexpr int middle = 128;
+    return palette.color(QPalette::Base).lightness() < middle;
 }

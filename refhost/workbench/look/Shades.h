@@ -26,3 +26,6 @@ struct Shades
     /// That of quiet text in an item of a view, which may be selected.
     static QColor quietIn(const QStyleOptionViewItem &item);
 };
+
+/// Whether the palette is one of light text on a dark ground.
+bool isDark(const QPalette &palette);

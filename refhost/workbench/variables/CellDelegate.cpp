@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QStyle>
 #include <QTimer>
 
@@ -41,7 +42,8 @@ QColor textColor(const QStyleOptionViewItem &option)
 /// What of the detail fits into `width`: all of it, its number, or nothing; the tooltip has it all.
 QString fittingDetail(const QString &detail, const QFontMetrics &metrics, int width)
 {
-    for (const QString &text : {detail, detail.section(QLatin1Char(' '), 0, 0)}) {
+    static const QRegularExpression number(QStringLiteral("[0-9,]+"));
+    for (const QString &text : {detail, number.match(detail).captured()}) {
         if (metrics.horizontalAdvance(text) <= width)
             return text;
     }
