@@ -69,6 +69,12 @@ MainWindow::MainWindow(Workbench &bench, QWidget *parent)
     connect(qApp, &QApplication::focusChanged, this, &MainWindow::showFocus);
 }
 
+MainWindow::~MainWindow()
+{
+    // The focus leaves the window when there is little left of it.
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
 void MainWindow::rememberLayout()
 {
     m_remembers = true;

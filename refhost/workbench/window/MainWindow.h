@@ -20,6 +20,7 @@ class MainWindow : public QMainWindow
 public:
     /// The workbench has to outlive the window.
     explicit MainWindow(Workbench &bench, QWidget *parent = nullptr);
+    ~MainWindow() override;
 
     FileActions &files() { return *m_files; }
 
