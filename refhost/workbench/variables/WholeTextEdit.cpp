@@ -3,6 +3,7 @@
 #include "refhost/workbench/look/Shades.h"
 #include "refhost/workbench/look/SymbolIcon.h"
 #include "refhost/workbench/values/VisibleText.h"
+#include "refhost/workbench/variables/TextWalk.h"
 
 #include <QClipboard>
 #include <QContextMenuEvent>
@@ -16,11 +17,6 @@ namespace {
 
 constexpr int delayMilliseconds = 120;
 constexpr int longText = 1 << 20; ///< of which a division takes its time
-
-bool isWordUnit(QChar unit)
-{
-    return unit.isLetterOrNumber() || unit == QLatin1Char('_') || unit.isSurrogate();
-}
 
 /// A monospaced font in the size that the user has chosen for everything.
 QFont fixedFont()
@@ -366,10 +362,10 @@ bool WholeTextEdit::handleMove(QKeyEvent *event)
     int target = 0;
     switch (event->key()) {
     case Qt::Key_Left:
-        target = byWord ? previousWord(m_cursor) : previousPosition(m_cursor);
+        target = byWord ? previousWord(m_text, m_cursor) : previousPosition(m_text, m_cursor);
         break;
     case Qt::Key_Right:
-        target = byWord ? nextWord(m_cursor) : nextPosition(m_cursor);
+        target = byWord ? nextWord(m_text, m_cursor) : nextPosition(m_text, m_cursor);
         break;
     case Qt::Key_Up:
         target = vertical(-1);
@@ -387,7 +383,8 @@ bool WholeTextEdit::handleMove(QKeyEvent *event)
         target = byWord ? 0 : start;
         break;
     case Qt::Key_End:
-        target = byWord ? m_text.size() : (row == m_rows.count() - 1 ? end : previousPosition(end));
+        target = byWord ? m_text.size()
+                        : (row == m_rows.count() - 1 ? end : previousPosition(m_text, end));
         break;
     default:
         return false;
@@ -400,9 +397,10 @@ bool WholeTextEdit::handleErasure(QKeyEvent *event)
 {
     const bool byWord = event->modifiers() & Qt::ControlModifier;
     if (event->key() == Qt::Key_Backspace)
-        erase(byWord ? previousWord(m_cursor) : previousPosition(m_cursor), m_cursor);
+        erase(byWord ? previousWord(m_text, m_cursor) : previousPosition(m_text, m_cursor),
+              m_cursor);
     else if (event->key() == Qt::Key_Delete)
-        erase(m_cursor, byWord ? nextWord(m_cursor) : nextPosition(m_cursor));
+        erase(m_cursor, byWord ? nextWord(m_text, m_cursor) : nextPosition(m_text, m_cursor));
     else
         return false;
     return true;
@@ -421,45 +419,6 @@ int WholeTextEdit::vertical(int rows) const
     return positionAt({fontMetrics().averageCharWidth() + qRound(x), y});
 }
 
-int WholeTextEdit::nextPosition(int position) const
-{
-    if (position >= m_text.size())
-        return m_text.size();
-    const bool isPair = m_text.at(position).isHighSurrogate() && position + 1 < m_text.size() &&
-                        m_text.at(position + 1).isLowSurrogate();
-    return position + (isPair ? 2 : 1);
-}
-
-int WholeTextEdit::previousPosition(int position) const
-{
-    if (position <= 0)
-        return 0;
-    const bool isPair = position > 1 && m_text.at(position - 1).isLowSurrogate() &&
-                        m_text.at(position - 2).isHighSurrogate();
-    return position - (isPair ? 2 : 1);
-}
-
-int WholeTextEdit::nextWord(int position) const
-{
-    // A word may be as long as the text; a bound keeps the key quick.
-    const int bound = qMin(m_text.size(), position + longText);
-    while (position < bound && isWordUnit(m_text.at(position)))
-        ++position;
-    while (position < bound && !isWordUnit(m_text.at(position)))
-        ++position;
-    return position;
-}
-
-int WholeTextEdit::previousWord(int position) const
-{
-    const int bound = qMax(0, position - longText);
-    while (position > bound && !isWordUnit(m_text.at(position - 1)))
-        --position;
-    while (position > bound && isWordUnit(m_text.at(position - 1)))
-        --position;
-    return position;
-}
-
 int WholeTextEdit::positionAt(const QPoint &point) const
 {
     const int offset = point.y() < 0 ? -1 - (-point.y() / rowHeight()) : point.y() / rowHeight();
@@ -474,7 +433,7 @@ int WholeTextEdit::positionAt(const QPoint &point) const
         start + layout.lineAt(0).xToCursor(point.x() - fontMetrics().averageCharWidth());
     // Behind the last character of a row that goes on is the beginning of the next.
     const bool isSeam = position >= end && row < m_rows.count() - 1;
-    return isSeam ? previousPosition(end) : qMin(position, end);
+    return isSeam ? previousPosition(m_text, end) : qMin(position, end);
 }
 
 void WholeTextEdit::mousePressEvent(QMouseEvent *event)
@@ -492,13 +451,8 @@ void WholeTextEdit::mouseMoveEvent(QMouseEvent *event)
 void WholeTextEdit::mouseDoubleClickEvent(QMouseEvent *event)
 {
     const int position = positionAt(event->pos());
-    int start = position;
-    int end = position;
-    while (start > 0 && position - start < longText && isWordUnit(m_text.at(start - 1)))
-        --start;
-    while (end < m_text.size() && end - position < longText && isWordUnit(m_text.at(end)))
-        ++end;
-    select(start, end - start);
+    const int start = wordStart(m_text, position);
+    select(start, wordEnd(m_text, position) - start);
 }
 
 void WholeTextEdit::contextMenuEvent(QContextMenuEvent *event)

@@ -91,10 +91,6 @@ private:
     bool handleMove(QKeyEvent *event);
     bool handleErasure(QKeyEvent *event);
     int vertical(int rows) const;
-    int nextPosition(int position) const;
-    int previousPosition(int position) const;
-    int nextWord(int position) const;
-    int previousWord(int position) const;
     int positionAt(const QPoint &point) const;
     int rowHeight() const;
     int visibleRows() const;
