@@ -4,6 +4,7 @@
 #include "refhost/runner/ValidateOptions.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFile>
@@ -134,9 +135,12 @@ Outcome awaitOutcome(QProcess &process, const QString &resultFile, int timeoutSe
 
 Result<Probe> Probe::find()
 {
+    // Beside this program where both are built; installed, apart from what users start.
     const QString folder = QCoreApplication::applicationDirPath();
+    const QString installed =
+        QDir::cleanPath(folder + QStringLiteral("/../") + QStringLiteral(PROBE_FOLDER));
     Probe probe;
-    probe.m_program = QStandardPaths::findExecutable(programName, {folder});
+    probe.m_program = QStandardPaths::findExecutable(programName, {folder, installed});
     const QString expected = folder + QLatin1Char('/') + programName;
     if (probe.m_program.isEmpty()) {
         return unusable(expected, QStringLiteral("not there, or no program; expected the one that "
