@@ -19,6 +19,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <new>
 #include <optional>
 #include <vector>
 
@@ -116,7 +117,14 @@ int runCommand(const Command &command, QCommandLineParser &parser, const QString
                               .arg(command.name(), listOr(given, QStringLiteral("no argument")),
                                    listOr(command.arguments(), QStringLiteral("none"))));
     }
-    const int status = command.run(parser, given, console);
+    int status = BadInput;
+    try {
+        status = command.run(parser, given, console);
+    } catch (const std::bad_alloc &) {
+        // Steps go on without what does not fit; showing or reading what does can still be too
+        // much.
+        console.complain(QStringLiteral("what this takes does not fit into memory"));
+    }
     return console.flush() ? status : BadInput;
 }
 

@@ -3,12 +3,13 @@
 
 #include <QtTest>
 
-/// "oprun run --each" with little memory to spare.
-class RowMemoryTest : public QuietTest
+/// oprun with little memory to spare.
+class ScarceMemoryTest : public QuietTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void hugeResult();
     void hugeRow_data();
     void hugeRow();
     void manyJobs();
@@ -23,7 +24,23 @@ const char sampleTask[] = R"({
 
 } // namespace
 
-void RowMemoryTest::hugeRow_data()
+/// The steps go on without what does not fit; what did fit is too much to be shown.
+void ScarceMemoryTest::hugeResult()
+{
+    const QString doubling =
+        R"({"type": "text.append", "sourceText": "$r", "appendText": "$r", "resultVar": "r"})";
+    const QString task =
+        R"({"variables": {"r": {"type": "string", "value": "ab"}}, "steps": [%1]})";
+    const OprunFolder folder(OPRUN_FILE);
+    QVERIFY(folder.write("task.json", task.arg((doubling + ',').repeated(30).chopped(1)).toUtf8()));
+    const auto outcome = folder.runShell("ulimit -v 600000; $OPRUN run task.json; echo $?");
+    QCOMPARE(outcome.out, QString("2\n"));
+    QVERIFY2(outcome.err.contains("结果过大，已跳过"), qPrintable(outcome.err));
+    QVERIFY2(outcome.err.endsWith("oprun: what this takes does not fit into memory\n"),
+             qPrintable(outcome.err));
+}
+
+void ScarceMemoryTest::hugeRow_data()
 {
     QTest::addColumn<QString>("options");
 
@@ -33,7 +50,7 @@ void RowMemoryTest::hugeRow_data()
 }
 
 /// A row for which there is no memory fails, or all rows do, but not the program.
-void RowMemoryTest::hugeRow()
+void ScarceMemoryTest::hugeRow()
 {
     QFETCH(QString, options);
 
@@ -51,7 +68,7 @@ void RowMemoryTest::hugeRow()
 }
 
 /// There is no memory for the stacks of that many threads.
-void RowMemoryTest::manyJobs()
+void ScarceMemoryTest::manyJobs()
 {
     const OprunFolder folder(OPRUN_FILE);
     QVERIFY(folder.write("task.json", sampleTask));
@@ -61,5 +78,5 @@ void RowMemoryTest::manyJobs()
     QCOMPARE(outcome.err, QString("oprun: 1 rows: 1 done, 0 failed; 0 warnings\n"));
 }
 
-QTEST_GUILESS_MAIN(RowMemoryTest)
-#include "RowMemoryTest.moc"
+QTEST_GUILESS_MAIN(ScarceMemoryTest)
+#include "ScarceMemoryTest.moc"
