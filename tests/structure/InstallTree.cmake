@@ -34,7 +34,13 @@ if(WITH_WORKBENCH)
     endif()
 endif()
 
-foreach(file share/man/man1/oprun.1 share/bash-completion/completions/oprun)
+set(files share/man/man1/oprun.1 share/bash-completion/completions/oprun
+    libexec/operationcore/oprun-probe include/OperationCore/IOperationPlugin.h)
+if(WITH_WORKBENCH)
+    list(APPEND files share/man/man1/opworkbench.1 share/applications/opworkbench.desktop
+        share/icons/hicolor/scalable/apps/opworkbench.svg)
+endif()
+foreach(file IN LISTS files)
     if(NOT EXISTS ${WORK_DIR}/second/${file})
         message(FATAL_ERROR "the installed tree has no ${file}")
     endif()

@@ -6,8 +6,25 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QImage>
+#include <QRegularExpression>
+#include <QSet>
 #include <QTemporaryDir>
 #include <QTest>
+
+namespace {
+
+/// The long options a text names.
+QSet<QString> optionsIn(const QString &text)
+{
+    static const QRegularExpression option("(?<![-\\w])--[a-z][a-z-]*");
+    QSet<QString> options;
+    auto match = option.globalMatch(text);
+    while (match.hasNext())
+        options.insert(match.next().captured());
+    return options;
+}
+
+} // namespace
 
 /// The command line of the workbench, as it is read and as a process obeys it.
 class WorkbenchOptionsTest : public QuietTest
@@ -19,6 +36,7 @@ private Q_SLOTS:
 
     void readsAll();
     void hasDefaults();
+    void manualPageTellsAllOptions();
     void refusesWhatMakesNoSense_data();
     void refusesWhatMakesNoSense();
     void speaksTheLanguageItIsTold_data();
@@ -88,6 +106,14 @@ void WorkbenchOptionsTest::hasDefaults()
     QCOMPARE(parsed.value().plugins, QStringList());
     QCOMPARE(parsed.value().task, QString());
     QVERIFY(WorkbenchOptions::parse({"opworkbench", "--run", "t.json"}).value().run);
+}
+
+void WorkbenchOptionsTest::manualPageTellsAllOptions()
+{
+    QFile page(MANUAL_PAGE);
+    QVERIFY(page.open(QIODevice::ReadOnly));
+    const QString manual = QString::fromUtf8(page.readAll()).replace("\\-", "-");
+    QCOMPARE(optionsIn(manual), optionsIn(WorkbenchOptions::helpText()));
 }
 
 void WorkbenchOptionsTest::refusesWhatMakesNoSense_data()
