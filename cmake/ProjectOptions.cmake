@@ -32,6 +32,16 @@ if(TEXTOPER_SANITIZERS)
     target_link_options(ProjectWarnings INTERFACE -fsanitize=${TEXTOPER_SANITIZERS})
 endif()
 
+# Has moc look through a target again when files that no CMakeLists.txt names are others than the
+# last time. Ninja knows of no reason to, and what is new would not link.
+function(look_again_for_new_files target)
+    set(key ${target}_KNOWN_FILES)
+    if(NOT "${${key}}" STREQUAL "${ARGN}")
+        file(REMOVE ${CMAKE_CURRENT_BINARY_DIR}/${target}_autogen/timestamp)
+    endif()
+    set(${key} "${ARGN}" CACHE INTERNAL "The sources of ${target} at the last configuration")
+endfunction()
+
 # Lets no symbol of a shared library be left to luck at load time. Clang's sanitizer run-time is
 # linked into programs only, so there its symbols have to stay open in libraries.
 function(forbid_undefined_symbols target)

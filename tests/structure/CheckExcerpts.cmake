@@ -1,0 +1,31 @@
+# Fails when a page shows code that stands in none of the files in FOLDER, line by line.
+#
+#   cmake -D PAGE=... -D FOLDER=... -P CheckExcerpts.cmake
+
+include(${CMAKE_CURRENT_LIST_DIR}/PageBlocks.cmake)
+
+file(GLOB files ${FOLDER}/*)
+set(total 0)
+foreach(language cpp cmake json xml)
+    page_blocks(${PAGE} ${language} excerpt)
+    foreach(i RANGE ${excerpt_COUNT})
+        if(i EQUAL 0)
+            continue()
+        endif()
+        math(EXPR total "${total} + 1")
+        set(is_found FALSE)
+        foreach(file IN LISTS files)
+            file(READ ${file} content)
+            string(FIND "\n${content}" "\n${excerpt_${i}}" place)
+            if(NOT place EQUAL -1)
+                set(is_found TRUE)
+            endif()
+        endforeach()
+        if(NOT is_found)
+            message(SEND_ERROR "${PAGE}: in no file of ${FOLDER}:\n${excerpt_${i}}")
+        endif()
+    endforeach()
+endforeach()
+if(total EQUAL 0)
+    message(FATAL_ERROR "${PAGE} shows no code at all; the check looks in the wrong place")
+endif()
