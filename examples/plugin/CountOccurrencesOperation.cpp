@@ -15,6 +15,9 @@ namespace {
 enum CaseMode { MatchCase, IgnoreCase };
 enum Range { WholeText, Beginning };
 
+/// Stands first in a record, behind that of the base class. Raise it when a field is added.
+constexpr quint16 recordVersion = 1;
+
 /// The choices one by one, which is how they are translated: lupdate cannot see them in class info.
 [[maybe_unused]] const char *const choices[] = {
     QT_TRANSLATE_NOOP("CountOccurrencesOperation", "区分大小写"),
@@ -156,12 +159,19 @@ void CountOccurrencesOperation::store(int count) const
 void CountOccurrencesOperation::saveOperation(QDataStream &stream) const
 {
     Operation::saveOperation(stream);
+    stream << recordVersion;
     stream << m_sourceText << m_searchText << m_caseMode << m_range << m_charCount << m_resultVar;
 }
 
 void CountOccurrencesOperation::loadOperation(QDataStream &stream)
 {
     Operation::loadOperation(stream);
+    quint16 version = 0;
+    stream >> version;
+    if (version != recordVersion) {
+        stream.setStatus(QDataStream::ReadCorruptData);
+        return;
+    }
     stream >> m_sourceText >> m_searchText >> m_caseMode >> m_range >> m_charCount >> m_resultVar;
 }
 
