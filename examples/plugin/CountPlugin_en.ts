@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>次数保存到整型变量</source>
-        <translation>Store the count in integer variable</translation>
+        <translation>Store count in integer variable</translation>
     </message>
     <message>
         <source>区分大小写</source>

@@ -8,7 +8,7 @@
 #include <QXmlStreamReader>
 #include <QtTest>
 
-/// The thirteen icons as a host gets them from the loaded plug-in.
+/// The icons as a host gets them from the loaded plug-in.
 class IconsTest : public QuietTest
 {
     Q_OBJECT

@@ -29,6 +29,8 @@ forbid(refhost/engine "plugin/|operations/|refhost/core|refhost/validator|refhos
 forbid(refhost/validator "plugin/|operations/|refhost/core|refhost/runner|refhost/workbench|tests/|benchmarks/")
 forbid(refhost/runner "plugin/|operations/|refhost/core|refhost/workbench|tests/|benchmarks/")
 forbid(refhost/workbench "plugin/|operations/|refhost/core|refhost/validator|refhost/runner|tests/|benchmarks/")
+# The outside plug-in stands on what is installed alone.
+forbid(examples/plugin "plugin/|operations/|refhost/|tests/|benchmarks/|host/")
 forbid(benchmarks "plugin/|operations/|refhost/core|refhost/validator|refhost/runner|refhost/workbench|tests/")
 
 # The folders of the workbench, from what all share to the panels, which do not know each other. What

@@ -92,8 +92,14 @@ void StepThreadsTest::resultsAreThoseOfOneThread()
     for (std::thread &thread : threads)
         thread.join();
 
-    const QVariantList expected = results(makeSteps());
-    QCOMPARE(expected.size(), 13);
+    const Steps steps = makeSteps();
+    const QVariantList expected = results(steps);
+    // A step without settings that it needs would be no test; a new one adds them above.
+    for (std::size_t i = 0; i < steps.size(); ++i) {
+        const QString resultVar = steps[i]->property("resultVar").toString();
+        QVERIFY2(expected.at(int(i)) != makeScope().get(resultVar),
+                 qPrintable(steps[i]->typeId() + " has no result"));
+    }
     for (std::size_t i = 0; i < threadCount; ++i) {
         QCOMPARE(firstResults[i], expected);
         QCOMPARE(deviations[i], 0);
