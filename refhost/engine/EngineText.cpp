@@ -12,6 +12,12 @@ QString joined(const QStringList &texts, const QString &pattern)
     return texts.join(pattern.mid(first, pattern.indexOf(QLatin1String("%2")) - first));
 }
 
+QString propertyPattern()
+{
+    //: {name} stands in task files, {label} in the editor; use one of them.
+    return EngineText::tr("{name}");
+}
+
 QString typeWordText(const QString &word)
 {
     if (word == QLatin1String("scalar"))
@@ -32,12 +38,17 @@ QString stepText(int index)
 
 QString propertyText(const PropertySchema &property)
 {
-    const QString label = property.label.isEmpty() ? property.name : property.label;
-    //: {name} stands in task files, {label} in the editor; use one of them.
-    QString text = EngineText::tr("{name}");
+    const QString label = property.shownLabel.isEmpty() ? property.name : property.shownLabel;
+    QString text = propertyPattern();
     if (text.contains(QLatin1String("{label}")))
         return text.replace(QLatin1String("{label}"), label);
     return text.replace(QLatin1String("{name}"), property.name);
+}
+
+QStringList choicesText(const PropertySchema &property)
+{
+    return propertyPattern().contains(QLatin1String("{label}")) ? property.shownChoices
+                                                                : property.choices;
 }
 
 QString typeText(VarType type)

@@ -24,6 +24,10 @@ QString stepText(int index);
 /// A property by its name. A translation may use the label that its editor shows.
 QString propertyText(const PropertySchema &property);
 
+/// The choices of a property: those of task files where `propertyText` gives the name that stands
+/// there, those of its editor where it gives the label.
+QStringList choicesText(const PropertySchema &property);
+
 /// A type by its word in task files; empty for `VarType::None`.
 QString typeText(VarType type);
 

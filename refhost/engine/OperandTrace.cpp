@@ -18,7 +18,7 @@ OperandRecord readProperty(const PropertySchema &property, const Operation &step
 {
     OperandRecord record;
     record.property = property.name;
-    record.label = property.label;
+    record.label = property.shownLabel;
     record.role = roleOf(property);
     record.written = step.property(property.name.toUtf8().constData()).toString();
     if (record.role == PropertyRole::Input) {

@@ -4,6 +4,8 @@
 
 #include "Operation.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <limits>
 #include <tuple>
@@ -14,8 +16,34 @@ constexpr int noWeight = std::numeric_limits<int>::max();
 
 bool comesBefore(const CatalogEntry &left, const CatalogEntry &right)
 {
-    return std::tie(left.rootWeight, left.root, left.weight) <
-           std::tie(right.rootWeight, right.root, right.weight);
+    return std::tie(left.rootWeight, left.rootKey, left.root, left.weight) <
+           std::tie(right.rootWeight, right.rootKey, right.root, right.weight);
+}
+
+/// Whether `key` is translated to `root` in the context of the operation's class, or of one that it
+/// derives from.
+bool isRoot(const QString &root, const QString &key, const Operation &operation)
+{
+    const QByteArray text = key.toUtf8();
+    const QMetaObject *type = operation.metaObject();
+    for (; type && type != &Operation::staticMetaObject; type = type->superClass()) {
+        if (QCoreApplication::translate(type->className(), text.constData()) == root)
+            return true;
+    }
+    return false;
+}
+
+/// The key by which the manifest has a weight for the root, which the operation gives translated
+/// and the manifest has as it stands in the sources. The root itself where there is none.
+QString rootKeyOf(const QString &root, const Operation &operation, const PluginManifest &manifest)
+{
+    if (manifest.rootOrder.contains(root))
+        return root;
+    const QStringList keys = manifest.rootOrder.keys();
+    const auto found = std::find_if(keys.cbegin(), keys.cend(), [&](const QString &key) {
+        return isRoot(root, key, operation);
+    });
+    return found == keys.cend() ? root : *found;
 }
 
 QList<CatalogEntry> entriesOf(const LoadedPlugin &plugin)
@@ -25,8 +53,8 @@ QList<CatalogEntry> entriesOf(const LoadedPlugin &plugin)
     for (const auto &prototype : plugin.prototypes()) {
         CatalogEntry entry;
         entry.root = prototype->root();
-        // The manifest has the untranslated text; the reference host translates none of a plug-in.
-        entry.rootWeight = manifest.rootOrder.value(entry.root, noWeight);
+        entry.rootKey = rootKeyOf(entry.root, *prototype, manifest);
+        entry.rootWeight = manifest.rootOrder.value(entry.rootKey, noWeight);
         entry.typeId = prototype->typeId();
         entry.weight = manifest.typeOrder.value(entry.typeId, noWeight);
         entry.prototype = prototype.get();

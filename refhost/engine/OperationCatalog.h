@@ -15,7 +15,8 @@ class Operation;
 /// One kind of step the host offers.
 struct CatalogEntry
 {
-    QString root;
+    QString root;    ///< in the language of the plug-in's translation
+    QString rootKey; ///< the same as the manifest has it, or like `root` where that has it not
     int rootWeight = 0;
     QString typeId;
     int weight = 0;

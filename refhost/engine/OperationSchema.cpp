@@ -2,6 +2,7 @@
 
 #include "Operation.h"
 
+#include <QCoreApplication>
 #include <QMetaObject>
 #include <QMetaProperty>
 
@@ -9,12 +10,32 @@
 
 namespace {
 
+/// The place of the class info "<key>_<property>", -1 when the class has none.
+int annotationIndex(const QMetaObject &meta, const char *key, const QString &property)
+{
+    const QByteArray name = key + ('_' + property.toUtf8());
+    return meta.indexOfClassInfo(name.constData());
+}
+
 /// The class info "<key>_<property>", empty when the class has none.
 QString annotation(const QMetaObject &meta, const char *key, const QString &property)
 {
-    const QByteArray name = key + ('_' + property.toUtf8());
-    const int index = meta.indexOfClassInfo(name.constData());
+    const int index = annotationIndex(meta, key, property);
     return index < 0 ? QString() : QString::fromUtf8(meta.classInfo(index).value());
+}
+
+/// The text of an annotation, or a part of it, as users are to read it. Its context is the class
+/// that has the annotation.
+QString translated(const QMetaObject &meta, const char *key, const QString &property,
+                   const QString &text)
+{
+    if (text.isEmpty())
+        return text;
+    const int index = annotationIndex(meta, key, property);
+    const QMetaObject *owner = &meta;
+    while (index < owner->classInfoOffset())
+        owner = owner->superClass();
+    return QCoreApplication::translate(owner->className(), text.toUtf8().constData());
 }
 
 void readRestriction(const QMetaObject &meta, PropertySchema &schema)
@@ -50,6 +71,9 @@ PropertySchema readProperty(const QMetaObject &meta, const QMetaProperty &proper
     schema.editor = annotation(meta, "editor", schema.name);
     schema.choices =
         annotation(meta, "choices", schema.name).split(QLatin1Char('|'), Qt::SkipEmptyParts);
+    schema.shownLabel = translated(meta, "prop", schema.name, schema.label);
+    for (const QString &choice : qAsConst(schema.choices))
+        schema.shownChoices.append(translated(meta, "choices", schema.name, choice));
     readRestriction(meta, schema);
     readCondition(meta, schema);
     return schema;

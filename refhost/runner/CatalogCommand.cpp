@@ -73,6 +73,11 @@ void CatalogCommand::addOptions(QCommandLineParser &parser) const
     parser.addOption(Options::json());
 }
 
+bool CatalogCommand::isForPrograms(const QCommandLineParser &options) const
+{
+    return options.isSet(Options::json());
+}
+
 int CatalogCommand::runWith(const OperationCatalog &catalog, const QCommandLineParser &options,
                             const QStringList &arguments, Console &console) const
 {

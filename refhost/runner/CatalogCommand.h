@@ -12,6 +12,7 @@ public:
     void addOptions(QCommandLineParser &parser) const override;
 
 protected:
+    bool isForPrograms(const QCommandLineParser &options) const override;
     int runWith(const OperationCatalog &catalog, const QCommandLineParser &options,
                 const QStringList &arguments, Console &console) const override;
 };

@@ -21,7 +21,7 @@ QJsonObject propertyToJson(const PropertySchema &property)
 {
     QJsonObject json{{QStringLiteral("name"), property.name},
                      {QStringLiteral("type"), property.typeName},
-                     {QStringLiteral("label"), property.label},
+                     {QStringLiteral("label"), property.shownLabel},
                      {QStringLiteral("default"), variantToJson(property.defaultValue)}};
     if (!property.editor.isEmpty())
         json.insert(QStringLiteral("editor"), property.editor);
@@ -60,7 +60,7 @@ void printOperation(const CatalogEntry &entry, const OperationSchema &schema, Co
                              QStringLiteral("EDITOR"), QStringLiteral("DEFAULT"),
                              QStringLiteral("REMARKS")}};
     for (const PropertySchema &property : schema.properties()) {
-        rows.append({property.name, property.label, editorOf(property),
+        rows.append({property.name, property.shownLabel, editorOf(property),
                      jsonText(variantToJson(property.defaultValue)), remarksOn(property)});
     }
     const QStringList lines = alignColumns(rows);
@@ -93,6 +93,11 @@ QStringList DescribeCommand::arguments() const
 void DescribeCommand::addOptions(QCommandLineParser &parser) const
 {
     parser.addOption(Options::json());
+}
+
+bool DescribeCommand::isForPrograms(const QCommandLineParser &options) const
+{
+    return options.isSet(Options::json());
 }
 
 int DescribeCommand::runWith(const OperationCatalog &catalog, const QCommandLineParser &options,

@@ -56,7 +56,7 @@ void printProperties(const OperationSchema &schema, Console &console)
                     QStringLiteral("default"), QStringLiteral("remarks")},
                    console);
     for (const PropertySchema &property : schema.properties()) {
-        printRow({code(property.name), cell(property.label), code(editorOf(property)),
+        printRow({code(property.name), cell(property.shownLabel), code(editorOf(property)),
                   code(jsonText(variantToJson(property.defaultValue))), cell(remarksOn(property))},
                  console);
     }
@@ -130,6 +130,12 @@ QString DocsCommand::example() const
 void DocsCommand::addOptions(QCommandLineParser &parser) const
 {
     parser.addOption(iconsOption());
+}
+
+bool DocsCommand::isForPrograms(const QCommandLineParser &options) const
+{
+    Q_UNUSED(options)
+    return true; // the page is kept and compared
 }
 
 int DocsCommand::runWith(const OperationCatalog &catalog, const QCommandLineParser &options,

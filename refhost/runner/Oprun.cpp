@@ -136,7 +136,8 @@ int runOprun(const QStringList &arguments)
     const Commands commands = allCommands();
     QCommandLineParser parser;
     parser.setApplicationDescription(overview(commands));
-    parser.addOptions({Options::help(), Options::version(), Options::plugin()});
+    parser.addOptions(
+        {Options::help(), Options::version(), Options::plugin(), Options::language()});
     parser.addPositionalArgument(QStringLiteral("COMMAND"),
                                  commandNames(commands).join(QLatin1String(", ")));
 

@@ -17,6 +17,14 @@ QCommandLineOption Options::json()
     return {QStringLiteral("json"), QStringLiteral("Print the result as JSON.")};
 }
 
+QCommandLineOption Options::language()
+{
+    return {QStringLiteral("lang"),
+            QStringLiteral("Show texts of plug-ins in this language, not in that of the locale; "
+                           "\"zh\" for those of their sources."),
+            QStringLiteral("LANG")};
+}
+
 QCommandLineOption Options::plugin()
 {
     return {QStringLiteral("plugin"),

@@ -14,6 +14,9 @@ QCommandLineOption version();
 /// --json: results as JSON.
 QCommandLineOption json();
 
+/// --lang LANG: show texts of plug-ins in this language.
+QCommandLineOption language();
+
 /// --plugin FILE: load this plug-in instead of those found beside the program; repeatable.
 QCommandLineOption plugin();
 

@@ -4,6 +4,7 @@
 #include "refhost/engine/OperationCatalog.h"
 #include "refhost/runner/Console.h"
 #include "refhost/runner/ExitStatus.h"
+#include "refhost/runner/LanguageChoice.h"
 #include "refhost/runner/PluginChoice.h"
 
 int PluginCommand::run(const QCommandLineParser &options, const QStringList &arguments,
@@ -16,12 +17,25 @@ int PluginCommand::run(const QCommandLineParser &options, const QStringList &arg
                 .arg(ownPluginFolders().join(QLatin1String(" or "))));
         return PluginNotLoaded;
     }
+    const Result<QStringList> languages =
+        isForPrograms(options) ? languagesNamed(options, files) : chosenLanguages(options, files);
+    if (!languages) {
+        console.complain(languages.problem().toString());
+        return BadInput;
+    }
+    const auto translations = translate(files, languages.value(), console);
     const OperationCatalog catalog(files);
     for (const Problem &failure : catalog.failures())
         console.complain(failure.toString());
     if (!catalog.failures().isEmpty())
         return PluginNotLoaded;
     return runWith(catalog, options, arguments, console);
+}
+
+bool PluginCommand::isForPrograms(const QCommandLineParser &options) const
+{
+    Q_UNUSED(options)
+    return false;
 }
 
 const CatalogEntry *PluginCommand::findOrComplain(const OperationCatalog &catalog,

@@ -10,11 +10,16 @@ struct CatalogEntry;
 class PluginCommand : public Command
 {
 public:
-    /// Loads the plug-ins and runs the command on them; with a message when one does not load.
+    /// Loads the plug-ins, and their texts in the language of the user, and runs the command on
+    /// them; with a message when one does not load.
     int run(const QCommandLineParser &options, const QStringList &arguments,
             Console &console) const final;
 
 protected:
+    /// Whether the results have texts of plug-ins for programs to read, or for the record: these
+    /// are then the same in every locale.
+    virtual bool isForPrograms(const QCommandLineParser &options) const;
+
     /// Does the work. `arguments` are as many as `arguments()` allows. Returns the exit status.
     virtual int runWith(const OperationCatalog &catalog, const QCommandLineParser &options,
                         const QStringList &arguments, Console &console) const = 0;

@@ -12,10 +12,10 @@ QString remarksOn(const PropertySchema &property)
     QStringList remarks;
     if (!property.restrictionKey.isEmpty())
         remarks.append(property.restrictionKey + QLatin1Char(' ') + property.restriction);
-    if (!property.choices.isEmpty()) {
+    if (!property.shownChoices.isEmpty()) {
         QStringList choices;
-        for (int i = 0; i < property.choices.size(); ++i)
-            choices.append(QStringLiteral("%1 %2").arg(i).arg(property.choices.at(i)));
+        for (int i = 0; i < property.shownChoices.size(); ++i)
+            choices.append(QStringLiteral("%1 %2").arg(i).arg(property.shownChoices.at(i)));
         remarks.append(choices.join(QLatin1String(" | ")));
     }
     if (!property.conditionName.isEmpty()) {

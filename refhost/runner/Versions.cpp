@@ -3,6 +3,7 @@
 #include "refhost/engine/LoadedPlugin.h"
 #include "refhost/runner/Console.h"
 #include "refhost/runner/ExitStatus.h"
+#include "refhost/runner/LanguageChoice.h"
 #include "refhost/runner/PluginChoice.h"
 
 #include "Operation.h"
@@ -16,6 +17,12 @@ int printVersions(const QCommandLineParser &options, Console &console)
                            QCoreApplication::applicationVersion(), QLatin1String(qVersion())));
     int status = Success;
     const QStringList files = chosenPlugins(options);
+    const Result<QStringList> languages = chosenLanguages(options, files);
+    if (!languages) {
+        console.complain(languages.problem().toString());
+        return BadInput;
+    }
+    const auto translations = translate(files, languages.value(), console);
     for (const QString &file : files) {
         const Result<LoadedPlugin> plugin = LoadedPlugin::load(file);
         if (!plugin) {

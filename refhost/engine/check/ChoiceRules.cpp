@@ -10,7 +10,7 @@ using MaybeFinding = std::optional<Finding>;
 /// A value of a choice by its label where it has one.
 QString choiceName(const PropertySchema &choice, int value)
 {
-    return choice.choices.value(value, QString::number(value));
+    return choicesText(choice).value(value, QString::number(value));
 }
 
 bool isChoice(const Setting &setting)
@@ -22,7 +22,7 @@ bool isChoice(const Setting &setting)
 MaybeFinding unknownMode(const Setting &setting, const TaskFacts &facts)
 {
     Q_UNUSED(facts)
-    const QStringList &choices = setting.schema.choices;
+    const QStringList choices = choicesText(setting.schema);
     if (choices.isEmpty() || isChoice(setting))
         return std::nullopt;
     return findingAt(setting, Mistake::UnknownMode, Severity::Warning,
