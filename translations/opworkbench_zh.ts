@@ -730,5 +730,9 @@
         <comment>texts in quotes</comment>
         <translation>%1 或 %2</translation>
     </message>
+    <message>
+        <source>no translation that can be used; texts of the plug-in stay as they are in its sources</source>
+        <translation>翻译文件无法使用；插件的文字保持源代码中的样子</translation>
+    </message>
 </context>
 </TS>

@@ -24,8 +24,8 @@ QStringList labelsOf(const Operation &operation)
     QStringList labels;
     const OperationSchema schema(operation);
     for (const PropertySchema &property : schema.properties()) {
-        if (!property.label.isEmpty())
-            labels.append(property.label);
+        if (!property.shownLabel.isEmpty())
+            labels.append(property.shownLabel);
     }
     return labels;
 }

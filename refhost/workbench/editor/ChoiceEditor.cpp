@@ -7,7 +7,7 @@ ChoiceEditor::ChoiceEditor(const PropertySchema &schema, const TaskDocument &doc
     : PropertyEditor(schema, document, parent)
     , m_field(new QComboBox(this))
 {
-    m_field->addItems(schema.choices);
+    m_field->addItems(schema.shownChoices);
     m_field->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_field->setMinimumContentsLength(6);
     m_field->setFocusPolicy(Qt::StrongFocus);

@@ -63,7 +63,7 @@ PropertyEditor::PropertyEditor(const PropertySchema &schema, const TaskDocument 
 
 QString PropertyEditor::title() const
 {
-    return m_schema.label.isEmpty() ? m_schema.name : m_schema.label;
+    return m_schema.shownLabel.isEmpty() ? m_schema.name : m_schema.shownLabel;
 }
 
 void PropertyEditor::setValue(const QVariant &value)

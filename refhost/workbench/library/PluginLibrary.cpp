@@ -54,9 +54,10 @@ QString copyOf(const QString &file, const QByteArray &bytes)
 
 } // namespace
 
-PluginLibrary::PluginLibrary(const QStringList &files, QObject *parent)
+PluginLibrary::PluginLibrary(const QStringList &files, const QString &language, QObject *parent)
     : QObject(parent)
     , m_files(files)
+    , m_languages(language.isEmpty() ? QStringList() : QStringList(language))
     , m_watch(new FileWatch(this))
 {
     loadFirst();
@@ -70,6 +71,7 @@ PluginLibrary::~PluginLibrary() = default;
 void PluginLibrary::loadFirst()
 {
     for (const QString &file : qAsConst(m_files)) {
+        m_translations.insert_or_assign(file, PluginTranslation(file, m_languages));
         const Result<QByteArray> bytes = readFileBytes(file);
         if (!bytes)
             continue;
@@ -104,6 +106,10 @@ QList<Problem> PluginLibrary::failures() const
     for (const QString &file : m_files) {
         if (m_refused.contains(file))
             failures.append(m_refused.value(file));
+    }
+    for (const auto &[file, translation] : m_translations) {
+        if (translation.problem())
+            failures.append(*translation.problem());
     }
     return failures;
 }
@@ -144,11 +150,13 @@ void PluginLibrary::load(const QString &file, const QByteArray &bytes)
     }
     QHash<QString, QString> copies = m_copies;
     copies.insert(file, copy);
+    // In place of the earlier one from here on, and gone again when the plug-in is not taken.
+    PluginTranslation translation(file, m_languages);
     auto next = std::make_unique<OperationCatalog>(m_files, copies);
     if (const auto problem = objection(*next, file))
         refuse(file, *problem);
     else
-        take(std::move(next), file, copy);
+        take(std::move(next), file, copy, std::move(translation));
 }
 
 /// What speaks against that catalogue, in which `file` is loaded anew: that it does without a
@@ -171,11 +179,12 @@ std::optional<Problem> PluginLibrary::objection(const OperationCatalog &next,
 }
 
 void PluginLibrary::take(std::unique_ptr<OperationCatalog> next, const QString &file,
-                         const QString &copy)
+                         const QString &copy, PluginTranslation translation)
 {
     const bool again = isInUse(file);
     m_refused.remove(file);
     m_copies.insert(file, copy);
+    m_translations.insert_or_assign(file, std::move(translation));
     m_past.push_back(std::move(m_catalog));
     m_catalog = std::move(next);
     const QString name = QFileInfo(file).fileName();
@@ -199,5 +208,5 @@ void PluginLibrary::refuse(const QString &file, Problem problem)
 
 void PluginLibrary::updateWatch()
 {
-    m_watch->setRegular(!failures().isEmpty());
+    m_watch->setRegular(!m_refused.isEmpty() || !m_catalog->failures().isEmpty());
 }

@@ -154,7 +154,8 @@ int runWorkbench(int argc, char *argv[])
     applyAppearance(options.style);
     Workbench bench(options.plugins.isEmpty()
                         ? pluginFiles(pluginFolders(QCoreApplication::applicationDirPath()))
-                        : options.plugins);
+                        : options.plugins,
+                    options.language);
     MainWindow window(bench);
     return options.screenshot.isEmpty() ? showWindow(bench, window, options)
                                         : drawWindow(bench, window, options);

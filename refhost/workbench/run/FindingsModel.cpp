@@ -19,7 +19,7 @@ QString labelOf(const Operation &operation, const QString &property)
 {
     const OperationSchema schema(operation);
     const PropertySchema *const found = schema.property(property);
-    return found && !found->label.isEmpty() ? found->label : property;
+    return found && !found->shownLabel.isEmpty() ? found->shownLabel : property;
 }
 
 QIcon severityIcon(Severity severity)

@@ -177,7 +177,9 @@ private:
     QString namedLabel() const
     {
         return firstOf([this](const PropertySchema &property) {
-            return !property.label.isEmpty() && m_line.contains(property.label);
+            // Warnings may be translated like labels, or stand as they are in the sources.
+            return (!property.label.isEmpty() && m_line.contains(property.label)) ||
+                   (!property.shownLabel.isEmpty() && m_line.contains(property.shownLabel));
         });
     }
 

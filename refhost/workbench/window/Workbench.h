@@ -13,8 +13,9 @@
 /// Everything of the workbench that is not a widget. The panels of the window stand on it.
 struct Workbench
 {
-    /// Loads the plug-ins in `pluginFiles`.
-    explicit Workbench(const QStringList &pluginFiles);
+    /// Loads the plug-ins in `pluginFiles`, with their texts in `language` where they have them;
+    /// without one texts stay as they are in the sources.
+    explicit Workbench(const QStringList &pluginFiles, const QString &language = {});
 
     PluginLibrary library;
     TaskDocument document;
