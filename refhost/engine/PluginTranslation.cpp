@@ -40,7 +40,7 @@ PluginTranslation::PluginTranslation(const QString &plugin, const QStringList &l
     m_bytes = bytes.value();
     m_translator = std::make_unique<QTranslator>();
     const auto *const data = reinterpret_cast<const uchar *>(m_bytes.constData());
-    if (m_translator->load(data, m_bytes.size())) {
+    if (m_translator->load(data, m_bytes.size()) && !m_translator->isEmpty()) {
         QCoreApplication::installTranslator(m_translator.get());
         return;
     }

@@ -12,16 +12,16 @@
 
 int printVersions(const QCommandLineParser &options, Console &console)
 {
-    console.print(QStringLiteral("%1 %2, Qt %3")
-                      .arg(QCoreApplication::applicationName(),
-                           QCoreApplication::applicationVersion(), QLatin1String(qVersion())));
-    int status = Success;
     const QStringList files = chosenPlugins(options);
     const Result<QStringList> languages = chosenLanguages(options, files);
     if (!languages) {
         console.complain(languages.problem().toString());
         return BadInput;
     }
+    console.print(QStringLiteral("%1 %2, Qt %3")
+                      .arg(QCoreApplication::applicationName(),
+                           QCoreApplication::applicationVersion(), QLatin1String(qVersion())));
+    int status = Success;
     const auto translations = translate(files, languages.value(), console);
     for (const QString &file : files) {
         const Result<LoadedPlugin> plugin = LoadedPlugin::load(file);

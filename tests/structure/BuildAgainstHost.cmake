@@ -3,6 +3,8 @@
 #
 #   cmake -D SOURCE_DIR=... -D WORK_DIR=... -D LIBRARY=... -D OPRUN=... -P BuildAgainstHost.cmake
 
+set(ENV{LC_ALL} C) # texts of plug-ins as in their sources
+
 file(REMOVE_RECURSE ${WORK_DIR})
 file(COPY ${SOURCE_DIR}/host/ DESTINATION ${WORK_DIR}/sdk/include)
 file(COPY ${LIBRARY} DESTINATION ${WORK_DIR}/sdk/lib)

@@ -2,6 +2,8 @@
 #
 #   cmake -D NAME=... -D EXPECTED=... -D OPRUN=... -D SCRIPT=... -P CheckExample.cmake
 
+set(ENV{LC_ALL} C) # texts of plug-ins as in their sources
+
 execute_process(COMMAND ${CMAKE_COMMAND} -E env OPRUN=${OPRUN} ${SCRIPT} ${NAME} --strict
     RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE errors)
 if(result OR errors)

@@ -5,6 +5,8 @@
 #
 # After a change that is meant, and a look at the difference: oprun check TASK > EXPECTED
 
+set(ENV{LC_ALL} C) # texts of plug-ins as in their sources
+
 set(expected "no findings\n")
 if(EXPECTED)
     file(READ ${EXPECTED} expected)

@@ -2,6 +2,8 @@
 #
 #   cmake -D OPRUN=... -D PAGE=... -P CheckPage.cmake
 
+set(ENV{LC_ALL} C) # texts of plug-ins as in their sources
+
 execute_process(COMMAND ${OPRUN} docs --icons ../resources/
     RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE errors)
 if(result OR errors)

@@ -2,6 +2,8 @@
 #
 #   cmake -D OPRUN=... -D PAGE=... -D FOLDER=... -D ARGUMENTS=... -P CheckShown.cmake
 
+set(ENV{LC_ALL} C) # texts of plug-ins as in their sources
+
 separate_arguments(arguments UNIX_COMMAND ${ARGUMENTS})
 execute_process(COMMAND ${OPRUN} ${arguments} WORKING_DIRECTORY ${FOLDER}
     OUTPUT_VARIABLE output ERROR_VARIABLE errors)

@@ -4,6 +4,8 @@
 #
 #   cmake -D BUILD_DIR=... -D WORK_DIR=... -D TASK=... -D WITH_WORKBENCH=... -P InstallTree.cmake
 
+set(ENV{LC_ALL} C) # texts of plug-ins as in their sources
+
 file(REMOVE_RECURSE ${WORK_DIR})
 execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${WORK_DIR}/first
     RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)

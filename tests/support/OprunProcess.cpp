@@ -9,6 +9,9 @@ OprunOutcome runProgram(const QString &oprun, const QStringList &arguments, cons
     QProcess process;
     process.setWorkingDirectory(folder);
     QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
+    // Whatever the language of whoever runs the tests.
+    variables.insert("LC_ALL", "C");
+    variables.remove("LANGUAGE");
     for (auto variable = environment.begin(); variable != environment.end(); ++variable)
         variables.insert(variable.key(), variable.value());
     process.setProcessEnvironment(variables);

@@ -15,6 +15,6 @@ struct OprunOutcome
 };
 
 /// Runs the program `oprun` with these arguments in `folder`, the current one when it is empty,
-/// with these environment variables added.
+/// with these environment variables added. Without a word of these on it the locale is "C".
 OprunOutcome runProgram(const QString &oprun, const QStringList &arguments,
                         const QString &folder = {}, const QMap<QString, QString> &environment = {});

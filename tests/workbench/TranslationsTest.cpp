@@ -9,6 +9,7 @@
 #include "refhost/workbench/window/MainWindow.h"
 #include "refhost/workbench/window/Workbench.h"
 #include "tests/support/QuietTest.h"
+#include "tests/support/TranslationFile.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -22,129 +23,14 @@
 #include <QRegularExpression>
 #include <QTest>
 #include <QTranslator>
-#include <QXmlStreamReader>
 
 #include <algorithm>
 
 namespace {
 
-/// One text of a translation file.
-struct Message
-{
-    QString context;
-    QString source;
-    QString state;     ///< "unfinished" and the like, empty when all is well
-    QStringList forms; ///< one, or those for different numbers
-};
-
-/// The one text of a translation, or those for different numbers.
-QStringList readForms(QXmlStreamReader &xml, bool isNumerus)
-{
-    if (!isNumerus)
-        return {xml.readElementText()};
-    QStringList forms;
-    while (xml.readNextStartElement())
-        forms.append(xml.readElementText());
-    return forms;
-}
-
-Message readMessage(QXmlStreamReader &xml, const QString &context)
-{
-    Message message{context, {}, {}, {}};
-    const bool isNumerus = xml.attributes().value("numerus") == QLatin1String("yes");
-    while (xml.readNextStartElement()) {
-        if (xml.name() == QLatin1String("source")) {
-            message.source = xml.readElementText();
-        } else if (xml.name() == QLatin1String("translation")) {
-            message.state = xml.attributes().value("type").toString();
-            message.forms = readForms(xml, isNumerus);
-        } else {
-            xml.skipCurrentElement();
-        }
-    }
-    return message;
-}
-
-QList<Message> readMessages(const QString &path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    QXmlStreamReader xml(&file);
-    QList<Message> messages;
-    QString context;
-    while (!xml.atEnd()) {
-        if (xml.readNext() != QXmlStreamReader::StartElement)
-            continue;
-        if (xml.name() == QLatin1String("name"))
-            context = xml.readElementText();
-        else if (xml.name() == QLatin1String("message"))
-            messages.append(readMessage(xml, context));
-    }
-    return xml.hasError() ? QList<Message>() : messages;
-}
-
 QString translationFile(const QString &language)
 {
     return QStringLiteral(PROJECT_FOLDER) + "/translations/opworkbench_" + language + ".ts";
-}
-
-bool hasChinese(const QString &text)
-{
-    return std::any_of(text.begin(), text.end(),
-                       [](QChar letter) { return letter.script() == QChar::Script_Han; });
-}
-
-bool hasLetters(const QString &text)
-{
-    return std::any_of(text.begin(), text.end(), [](QChar letter) { return letter.isLetter(); });
-}
-
-/// The places of a text that are filled, sorted. Of two that mean the same, one stands for both.
-QStringList markersOf(const QString &text)
-{
-    static const QRegularExpression marker(R"(%L?\d+|%n|\{\w+\})");
-    QStringList markers;
-    auto match = marker.globalMatch(text);
-    while (match.hasNext()) {
-        markers.append(match.next().captured());
-        markers.last().replace("{number}", "{index}").replace("{label}", "{name}");
-    }
-    markers.sort();
-    return markers;
-}
-
-bool hasMnemonic(const QString &text)
-{
-    static const QRegularExpression mnemonic(R"((^|[^&])&\w(?!\w*;))");
-    return mnemonic.match(text).hasMatch();
-}
-
-QString blanksAround(const QString &text)
-{
-    static const QRegularExpression blanks(R"(^(\s*).*?(\s*)$)",
-                                           QRegularExpression::DotMatchesEverythingOption);
-    const auto match = blanks.match(text);
-    return match.captured(1) + '|' + match.captured(2);
-}
-
-/// What is wrong with a translation, empty when nothing is.
-QString faultOf(const Message &message)
-{
-    if (!message.state.isEmpty())
-        return message.state;
-    for (const QString &form : message.forms) {
-        if (form.isEmpty())
-            return "empty";
-        if (markersOf(form) != markersOf(message.source))
-            return "other markers";
-        // What separates words has a blank in one script and none in another.
-        if (hasLetters(message.source) && blanksAround(form) != blanksAround(message.source))
-            return "other blanks around it";
-        if (hasMnemonic(form) != hasMnemonic(message.source))
-            return "a mnemonic too many or missing";
-    }
-    return message.forms.isEmpty() ? "missing" : QString();
 }
 
 /// What a user can read of the window before anything is done in it.
@@ -184,8 +70,6 @@ int translatorCount()
 
 } // namespace
 
-Q_DECLARE_METATYPE(Message)
-
 /// The window and the messages of the engine are there in Chinese and in English.
 class TranslationsTest : public QuietTest
 {
@@ -220,12 +104,12 @@ void TranslationsTest::cleanup()
 
 void TranslationsTest::everyTextIsTranslated_data()
 {
-    QTest::addColumn<Message>("message");
+    QTest::addColumn<TranslatedText>("message");
 
     for (const QString &language : languageNames()) {
-        const QList<Message> messages = readMessages(translationFile(language));
+        const QList<TranslatedText> messages = readTranslations(translationFile(language));
         QVERIFY(!messages.isEmpty());
-        for (const Message &message : messages) {
+        for (const TranslatedText &message : messages) {
             const QString row = language + ": " + message.context + ": " + message.source;
             QTest::newRow(qPrintable(row)) << message;
         }
@@ -234,14 +118,14 @@ void TranslationsTest::everyTextIsTranslated_data()
 
 void TranslationsTest::everyTextIsTranslated()
 {
-    QFETCH(Message, message);
+    QFETCH(TranslatedText, message);
     QCOMPARE(faultOf(message), QString());
 }
 
 void TranslationsTest::windowIsWrittenInChinese()
 {
-    const QList<Message> messages = readMessages(translationFile("en"));
-    for (const Message &message : messages) {
+    const QList<TranslatedText> messages = readTranslations(translationFile("en"));
+    for (const TranslatedText &message : messages) {
         QString text = message.source;
         for (const QString &marker : markersOf(text))
             text.remove(marker);
