@@ -54,6 +54,8 @@ private Q_SLOTS:
     void loadsWhatAppearsLater();
     void aTypeOfAnotherPluginIsNotTaken();
     void knowsAHalfWrittenLibrary();
+    void theTranslationComesAlong();
+    void aVersionThatIsNotTakenChangesNoTexts();
 
 private:
     void put(int version) { write(m_file, bytesOf(builtFile(version))); }
@@ -409,6 +411,42 @@ void ReloadTest::knowsAHalfWrittenLibrary()
         QVERIFY(!isWholeLibrary(noisy) || noisy.size() == whole.size());
         QCOMPARE(separated(noisy).size(), whole.size());
     }
+}
+
+void ReloadTest::theTranslationComesAlong()
+{
+    const auto text = [] { return QCoreApplication::translate("QObject", "文本操作插件"); };
+    const QString translation = m_folder->filePath("libReload_en.qm");
+    put(1);
+    write(translation, "none");
+    m_library = std::make_unique<PluginLibrary>(QStringList{m_file}, "en");
+    QCOMPARE(m_library->failures().size(), 1);
+    QCOMPARE(m_library->failures().first().file, translation);
+    QVERIFY(m_library->catalog().find("reload.step"));
+    QCOMPARE(text(), QString("文本操作插件"));
+
+    write(translation, bytesOf(ENGLISH_FILE));
+    reload(2);
+    QVERIFY(m_library->failures().isEmpty());
+    QCOMPARE(text(), QString("Text operations"));
+
+    QFile::remove(translation);
+    reload(1);
+    QVERIFY(m_library->failures().isEmpty());
+    QCOMPARE(text(), QString("文本操作插件"));
+}
+
+void ReloadTest::aVersionThatIsNotTakenChangesNoTexts()
+{
+    const QString translation = m_folder->filePath("libReload_en.qm");
+    put(1);
+    write(translation, bytesOf(ENGLISH_FILE));
+    m_library = std::make_unique<PluginLibrary>(QStringList{m_file}, "en");
+    QFile::remove(translation);
+    m_library->setUsedTypes([] { return QSet<QString>{"reload.step"}; });
+    reload(4);
+    QCOMPARE(m_library->failures().size(), 1);
+    QCOMPARE(QCoreApplication::translate("QObject", "文本操作插件"), QString("Text operations"));
 }
 
 QTEST_GUILESS_MAIN(ReloadTest)

@@ -10,10 +10,14 @@
 #include "refhost/workbench/window/Workbench.h"
 #include "tests/support/QuietTest.h"
 #include "tests/support/TranslationFile.h"
+#include "tests/workbench/support/NewStep.h"
+
+#include "Operation.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAction>
+#include <QComboBox>
 #include <QDir>
 #include <QDockWidget>
 #include <QLabel>
@@ -57,6 +61,33 @@ QStringList textsOf(const QWidget &window)
     return texts;
 }
 
+/// What the views of the window show, and their tool tips.
+QStringList cellsOf(const QAbstractItemModel &model, const QModelIndex &parent = {})
+{
+    QStringList texts;
+    for (int row = 0; row < model.rowCount(parent); ++row) {
+        for (int column = 0; column < model.columnCount(parent); ++column) {
+            const QModelIndex index = model.index(row, column, parent);
+            texts << index.data().toString() << index.data(Qt::ToolTipRole).toString();
+        }
+        texts << cellsOf(model, model.index(row, 0, parent));
+    }
+    return texts;
+}
+
+/// What a user can read of the window, the content of the panels included.
+QStringList allTextsOf(const QWidget &window)
+{
+    QStringList texts = textsOf(window);
+    for (const auto *view : window.findChildren<QAbstractItemView *>()) {
+        if (view->model())
+            texts << cellsOf(*view->model());
+    }
+    for (const auto *box : window.findChildren<QComboBox *>())
+        texts << cellsOf(*box->model());
+    return texts;
+}
+
 /// The languages to choose from call themselves in their own words.
 bool isOfLanguageMenu(QString text)
 {
@@ -88,6 +119,9 @@ private Q_SLOTS:
     void thingsAreCalledAsTheUserKnowsThem();
     void languageChangesAtRunTime();
     void unknownLanguageChangesNothing();
+    void pluginsSpeakTheLanguageOfTheWindow();
+    void choicesAreCalledAsTheUserKnowsThem();
+    void pluginsStayAsTheyAreInChinese();
 
 private:
     QStringList findingTexts(const QString &path) const;
@@ -229,7 +263,7 @@ void TranslationsTest::thingsAreCalledAsTheUserKnowsThem()
     PropertySchema property;
     property.name = "mode";
     PropertySchema labelled = property;
-    labelled.label = "{name} %1";
+    labelled.shownLabel = "{name} %1";
     for (int i = 0; i < varTypeNames().size(); ++i) {
         const auto type = varTypeFromName(varTypeNames().at(i));
         QCOMPARE(typeText(type), varTypeNames().at(i));
@@ -278,6 +312,48 @@ void TranslationsTest::unknownLanguageChangesNothing()
     installLanguage("zh");
     QVERIFY(!installLanguage("tlh"));
     QCOMPARE(EngineText::tr("no value"), QString("没有值"));
+}
+
+void TranslationsTest::pluginsSpeakTheLanguageOfTheWindow()
+{
+    installLanguage("en");
+    Workbench bench({PLUGIN_FILE}, "en");
+    QVERIFY(bench.library.failures().isEmpty());
+    const MainWindow window(bench);
+    for (const CatalogEntry &entry : bench.library.catalog().entries()) {
+        bench.document.replace(TaskState().withSteps(0, {newStepOf(m_catalog, entry.typeId)}));
+        bench.place.setStep(bench.document.state().steps.first().id);
+        const Operation &step = *bench.document.state().steps.first().operation;
+        const QStringList texts = allTextsOf(window);
+        QVERIFY(texts.contains(step.typeName()));
+        QVERIFY(texts.contains(step.description()));
+        for (QString text : texts) {
+            // The words between the values of a summary are the same in every language.
+            text.remove(step.toString());
+            QVERIFY2(!hasChinese(text) || isOfLanguageMenu(text), qPrintable(text));
+        }
+    }
+}
+
+void TranslationsTest::choicesAreCalledAsTheUserKnowsThem()
+{
+    PropertySchema property;
+    property.choices = QStringList{"左边", "右边"};
+    property.shownChoices = QStringList{"Left", "Right"};
+    // Without a translation of the engine they are those of task files.
+    QCOMPARE(choicesText(property), property.choices);
+    for (const QString &language : languageNames()) {
+        installLanguage(language);
+        QCOMPARE(choicesText(property), property.shownChoices);
+    }
+}
+
+void TranslationsTest::pluginsStayAsTheyAreInChinese()
+{
+    installLanguage("zh");
+    Workbench bench({PLUGIN_FILE}, "zh");
+    const MainWindow window(bench);
+    QVERIFY(allTextsOf(window).contains("填充文本"));
 }
 
 QTEST_MAIN(TranslationsTest)
