@@ -6,6 +6,7 @@
 #include "refhost/engine/TaskReader.h"
 #include "refhost/engine/VarTypeName.h"
 #include "refhost/engine/check/TaskCheck.h"
+#include "refhost/workbench/editor/ExactTextEdit.h"
 #include "refhost/workbench/window/MainWindow.h"
 #include "refhost/workbench/window/Workbench.h"
 #include "tests/support/QuietTest.h"
@@ -83,6 +84,8 @@ QStringList allTextsOf(const QWidget &window)
         if (view->model())
             texts << cellsOf(*view->model());
     }
+    for (const auto *edit : window.findChildren<ExactTextEdit *>())
+        texts << edit->text();
     for (const auto *box : window.findChildren<QComboBox *>())
         texts << cellsOf(*box->model());
     return texts;
