@@ -18,6 +18,12 @@ execute_process(COMMAND ${WORK_DIR}/second/bin/oprun run ${TASK} --strict
 if(result)
     message(FATAL_ERROR "oprun from the installed tree gave ${result}\n${output}")
 endif()
+# What compiles translations is there wherever the workbench is.
+execute_process(COMMAND ${WORK_DIR}/second/bin/oprun --lang en catalog
+    RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE errors)
+if(WITH_WORKBENCH AND NOT output MATCHES "^Text\n")
+    message(FATAL_ERROR "the plug-in from the installed tree speaks no English\n${output}${errors}")
+endif()
 file(GLOB_RECURSE plugin ${WORK_DIR}/second/*TextOperPlugin.so)
 execute_process(COMMAND ${WORK_DIR}/second/bin/oprun validate --only file.loads ${plugin}
     RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
