@@ -254,7 +254,7 @@
     </message>
     <message>
         <source>新文本总长度</source>
-        <translation>Total length of new text</translation>
+        <translation>Total length</translation>
     </message>
     <message>
         <source>新文本保存到字符串变量</source>
@@ -394,7 +394,7 @@
     </message>
     <message>
         <source>从 %1 的第 %2 位取 %3 个字符存入 %4</source>
-        <translation>Take %3 characters of %1 from position %2, store in %4</translation>
+        <translation>Take part of %1 (start position: %2, number of characters: %3), store in %4</translation>
     </message>
     <message>
         <source>原文本</source>
