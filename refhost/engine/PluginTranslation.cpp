@@ -76,7 +76,7 @@ QString PluginTranslation::fileFor(const QString &plugin, const QStringList &lan
     for (const QString &language : languages) {
         const QStringList names = languageAndParents(language);
         for (const QString &name : names) {
-            const QString file = fileOf(plugin, name);
+            QString file = fileOf(plugin, name);
             if (QFileInfo(file).isFile())
                 return file;
         }
