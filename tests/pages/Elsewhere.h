@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+#include <QVector>
+
+/// A command of the pages that is not typed to see whether the page is true: it builds, installs,
+/// takes minutes or needs what is not there. It says what runs it instead.
+struct Elsewhere
+{
+    enum class By {
+        Test,  ///< a test, by its name
+        Ci,    ///< a line of .ci/run
+        People ///< nothing but people; the reason
+    };
+
+    QString command; ///< as `PageCommand::plainText` gives it
+    By by = By::Test;
+    QString what; ///< the name, the line or the reason
+};
+
+/// All of them.
+QVector<Elsewhere> commandsRunElsewhere();
