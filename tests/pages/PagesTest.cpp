@@ -272,8 +272,7 @@ void PagesTest::everyEntryIsRunElsewhere()
     QFETCH(QString, command);
     const Elsewhere entry = m_elsewhere.value(command);
     if (entry.by == Elsewhere::By::Test) {
-        static const QString tests =
-            runProgram(CTEST_PROGRAM, {"--test-dir", BUILD_FOLDER, "--show-only"}).out;
+        static const QString tests = runProgram(CTEST_PROGRAM, {"--show-only"}, BUILD_FOLDER).out;
         QVERIFY2(tests.contains(": " + entry.what + '\n'), qPrintable(entry.what));
     } else if (entry.by == Elsewhere::By::Ci) {
         QVERIFY2(contentOf(".ci/run").split('\n').contains(entry.what), qPrintable(entry.what));
