@@ -92,7 +92,7 @@ OprunOutcome PageFolder::type(const QString &command)
     // The shell is another for each command, but "$?" is what it would be in one.
     const QString line = QString("exec 2>&1\n(exit %1)\n%2\n").arg(m_status).arg(command);
     const QString home = m_folder.filePath("home");
-    const OprunOutcome outcome =
+    OprunOutcome outcome =
         runProgram("bash", {"-c", line}, m_folder.filePath("project"),
                    {{"PATH", path("build/release/bin") + ':' + qEnvironmentVariable("PATH")},
                     {"QT_QPA_PLATFORM", "offscreen"},
