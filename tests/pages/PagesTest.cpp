@@ -1,6 +1,7 @@
 #include "tests/pages/Elsewhere.h"
 #include "tests/pages/PageCommand.h"
 #include "tests/pages/PageFolder.h"
+#include "tests/pages/PageLinks.h"
 #include "tests/pages/PageReader.h"
 #include "tests/pages/ShownOutput.h"
 #include "tests/support/QuietTest.h"
@@ -93,6 +94,8 @@ private Q_SLOTS:
     void comparesOutputs();
     void everyCommandDoesWhatItsPageSays_data();
     void everyCommandDoesWhatItsPageSays();
+    void everyLinkLeadsSomewhere_data();
+    void everyLinkLeadsSomewhere();
     void everyEntryIsOnAPage();
     void everyEntryIsRunElsewhere_data();
     void everyEntryIsRunElsewhere();
@@ -245,6 +248,28 @@ void PagesTest::everyCommandDoesWhatItsPageSays()
     }
     const bool expected = outcome.status == 0 || showTrouble(command.shown);
     QVERIFY2(expected, qPrintable(told + outcome.out + outcome.err));
+}
+
+void PagesTest::everyLinkLeadsSomewhere_data()
+{
+    QTest::addColumn<QString>("page");
+    for (auto page = m_pages.cbegin(); page != m_pages.cend(); ++page)
+        QTest::newRow(qPrintable(page.key())) << page.key();
+}
+
+void PagesTest::everyLinkLeadsSomewhere()
+{
+    QFETCH(QString, page);
+    const QString text = contentOf(page);
+    const QStringList links = linksIn(text);
+    for (const QString &link : links) {
+        const QString file = link.section('#', 0, 0);
+        const QString place = link.section('#', 1);
+        const QString target = file.isEmpty() ? page : QFileInfo(page).path() + '/' + file;
+        QVERIFY2(QFileInfo::exists(PROJECT_FOLDER "/" + target), qPrintable(link));
+        const QString linked = place.isEmpty() ? QString() : contentOf(target);
+        QVERIFY2(place.isEmpty() || headingsIn(linked).contains(place), qPrintable(link));
+    }
 }
 
 void PagesTest::everyEntryIsOnAPage()
