@@ -1,5 +1,12 @@
 #include "tests/pages/Elsewhere.h"
 
+namespace {
+
+/// Goes the way of an author of plug-ins.
+const char *const outside = "OutsideProject";
+
+} // namespace
+
 QVector<Elsewhere> commandsRunElsewhere()
 {
     using By = Elsewhere::By;
@@ -33,5 +40,27 @@ QVector<Elsewhere> commandsRunElsewhere()
 
         // docs/workbench.md
         {"opworkbench --plugin build/libMyPlugin.so task.json", By::Test, "ReloadTest"},
+
+        // docs/writing-a-plugin.md
+        {"cmake --preset release && cmake --build --preset release", By::Ci, suite},
+        {"cmake --install build/release --prefix ~/operations", By::Test, "InstallTree"},
+        {"opworkbench --plugin build/CountPlugin.so log-errors.json", By::Test, "ReloadTest"},
+        {"gdb --args opworkbench --plugin build/CountPlugin.so log-errors.json", By::People,
+         "a debugger waits for what people tell it"},
+
+        // examples/plugin/README.md
+        {"cmake -S . -B build -D CMAKE_PREFIX_PATH=/path/to/the/installed/tree", By::Test, outside},
+        {"cmake --build build", By::Test, outside},
+        {"(cd build && ctest)", By::Test, outside},
+        {"oprun validate --level 5 build/CountPlugin.so", By::Test, outside},
+        {"oprun run log-errors.json --plugin build/CountPlugin.so --plugin "
+         "/path/to/libTextOperPlugin.so",
+         By::Test, outside},
+        {"cmake --install build --prefix /path/to/the/installed/tree", By::Test, outside},
     };
+}
+
+QVector<Elsewhere> pagesRunElsewhere()
+{
+    return {{"docs/writing-a-plugin.md", Elsewhere::By::Test, outside}};
 }

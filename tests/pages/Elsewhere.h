@@ -13,10 +13,13 @@ struct Elsewhere
         People ///< nothing but people; the reason
     };
 
-    QString command; ///< as `PageCommand::plainText` gives it
+    QString command; ///< as `PageCommand::plainText` gives it, or a page
     By by = By::Test;
     QString what; ///< the name, the line or the reason
 };
 
 /// All of them.
 QVector<Elsewhere> commandsRunElsewhere();
+
+/// Pages whose fenced blocks hang together and are typed by something else, all in one go.
+QVector<Elsewhere> pagesRunElsewhere();

@@ -8,6 +8,7 @@ struct PageCommand
 {
     int line = 0;             ///< where it stands in the page, counted from 1
     QString text;             ///< as it is written; lines that a backslash joins are still several
+    bool inFence = false;     ///< whether its block is fenced, not indented
     bool showsOutput = false; ///< whether the page shows what is printed, be it nothing
     QStringList shown;        ///< the lines the page shows below it
 

@@ -45,7 +45,7 @@ void readConsole(BlockLines &lines, int indent, QVector<PageCommand> &commands)
             return;
         if (line.startsWith("$ ")) {
             const int number = lines.number();
-            commands.append({number, wholeCommand(lines, line.mid(2), indent), true, {}});
+            commands.append({number, wholeCommand(lines, line.mid(2), indent), true, true, {}});
             begun = true;
         } else if (begun) {
             commands.last().shown.append(line);
@@ -61,7 +61,7 @@ void readLines(BlockLines &lines, int indent, Belongs belongs, QVector<PageComma
         const QString line = lines.next().mid(indent);
         const int number = lines.number();
         if (isCommand(line))
-            commands.append({number, wholeCommand(lines, line, indent), false, {}});
+            commands.append({number, wholeCommand(lines, line, indent), false, false, {}});
     }
 }
 
@@ -75,8 +75,12 @@ void readFenced(BlockLines &lines, const QRegularExpressionMatch &fence,
         readConsole(lines, indent, commands);
         return;
     }
-    QVector<PageCommand> others;
-    readLines(lines, indent, inside, fence.captured(2) == "sh" ? commands : others);
+    QVector<PageCommand> found;
+    readLines(lines, indent, inside, found);
+    for (PageCommand &command : found)
+        command.inFence = true;
+    if (fence.captured(2) == "sh")
+        commands += found;
     if (!lines.atEnd())
         lines.next();
 }

@@ -101,11 +101,12 @@ private Q_SLOTS:
     void everyEntryIsRunElsewhere();
 
 private:
+    bool isTypedHere(const QString &page, const PageCommand &command) const;
     OprunOutcome typeInto(PageFolder &folder, const PageCommand &command);
     PageFolder &folderBefore(const QString &page, int index);
 
     QMap<QString, QVector<PageCommand>> m_pages;
-    QMap<QString, Elsewhere> m_elsewhere;
+    QMap<QString, Elsewhere> m_elsewhere; ///< by their commands, and by their pages
     std::unique_ptr<PageFolder> m_folder; ///< of the page whose commands are being typed
     QString m_page;
     int m_typed = 0; ///< how many of its commands have been
@@ -117,7 +118,7 @@ void PagesTest::initTestCase()
     for (const QString &page : names)
         m_pages.insert(page, commandsIn(page));
     QVERIFY(m_pages.contains("README.md") && m_pages.contains("docs/oprun.1"));
-    const auto entries = commandsRunElsewhere();
+    const auto entries = commandsRunElsewhere() + pagesRunElsewhere();
     for (const Elsewhere &entry : entries) {
         QVERIFY2(!m_elsewhere.contains(entry.command), qPrintable(entry.command));
         m_elsewhere.insert(entry.command, entry);
@@ -194,12 +195,17 @@ void PagesTest::everyCommandDoesWhatItsPageSays_data()
     for (auto page = m_pages.cbegin(); page != m_pages.cend(); ++page) {
         for (int i = 0; i < page->size(); ++i) {
             const PageCommand &command = page->at(i);
-            const bool elsewhere = m_elsewhere.contains(command.plainText());
-            if (elsewhere || (needsWorkbench(command) && !WITH_WORKBENCH))
+            if (!isTypedHere(page.key(), command) || (needsWorkbench(command) && !WITH_WORKBENCH))
                 continue;
             QTest::addRow("%s:%d", qPrintable(page.key()), command.line) << page.key() << i;
         }
     }
+}
+
+bool PagesTest::isTypedHere(const QString &page, const PageCommand &command) const
+{
+    return !m_elsewhere.contains(command.plainText()) &&
+           !(command.inFence && m_elsewhere.contains(page));
 }
 
 OprunOutcome PagesTest::typeInto(PageFolder &folder, const PageCommand &command)
@@ -221,7 +227,7 @@ PageFolder &PagesTest::folderBefore(const QString &page, int index)
     }
     for (; m_typed < index; ++m_typed) {
         const PageCommand &command = m_pages.value(page).at(m_typed);
-        if (isHarmless(command) && !m_elsewhere.contains(command.plainText()))
+        if (isHarmless(command) && isTypedHere(page, command))
             typeInto(*m_folder, command);
     }
     ++m_typed;
@@ -274,7 +280,7 @@ void PagesTest::everyLinkLeadsSomewhere()
 
 void PagesTest::everyEntryIsOnAPage()
 {
-    QStringList typed;
+    QStringList typed = m_pages.keys();
     for (const auto &commands : qAsConst(m_pages)) {
         for (const PageCommand &command : commands)
             typed.append(command.plainText());
