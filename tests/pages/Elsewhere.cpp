@@ -23,6 +23,9 @@ QVector<Elsewhere> commandsRunElsewhere()
          "-D OPERATIONCORE_LIBRARY=/path/to/libOperationCore.so",
          By::Test, "BuildAgainstHost"},
         {"cmake --build build/host", By::Test, "BuildAgainstHost"},
+        {"cmake --install build/release --prefix ~/.local", By::Test, "InstallTree"},
+        {"scripts/package", By::Ci, "scripts/package release"},
+        {"scripts/try-packages", By::Ci, "scripts/try-packages"},
 
         // docs/mutation.md
         {"scripts/mutate", By::People, hours},
@@ -47,20 +50,11 @@ QVector<Elsewhere> commandsRunElsewhere()
         {"opworkbench --plugin build/CountPlugin.so log-errors.json", By::Test, "ReloadTest"},
         {"gdb --args opworkbench --plugin build/CountPlugin.so log-errors.json", By::People,
          "a debugger waits for what people tell it"},
-
-        // examples/plugin/README.md
-        {"cmake -S . -B build -D CMAKE_PREFIX_PATH=/path/to/the/installed/tree", By::Test, outside},
-        {"cmake --build build", By::Test, outside},
-        {"(cd build && ctest)", By::Test, outside},
-        {"oprun validate --level 5 build/CountPlugin.so", By::Test, outside},
-        {"oprun run log-errors.json --plugin build/CountPlugin.so --plugin "
-         "/path/to/libTextOperPlugin.so",
-         By::Test, outside},
-        {"cmake --install build --prefix /path/to/the/installed/tree", By::Test, outside},
     };
 }
 
 QVector<Elsewhere> pagesRunElsewhere()
 {
-    return {{"docs/writing-a-plugin.md", Elsewhere::By::Test, outside}};
+    return {{"docs/writing-a-plugin.md", Elsewhere::By::Test, outside},
+            {"examples/plugin/README.md", Elsewhere::By::Test, outside}};
 }
