@@ -5,7 +5,7 @@
 #
 #   cmake [-D FOLDER=...] -P UpdateTranslations.cmake
 
-cmake_path(GET CMAKE_CURRENT_LIST_DIR PARENT_PATH SOURCE_DIR)
+get_filename_component(SOURCE_DIR ${CMAKE_CURRENT_LIST_DIR} DIRECTORY)
 if(NOT FOLDER)
     set(FOLDER ${SOURCE_DIR}/translations)
 endif()
@@ -21,8 +21,10 @@ function(update name source_language language)
                 -source-language ${source_language} -target-language ${language}
                 ${ARGN} -ts ${FOLDER}/${name}
         WORKING_DIRECTORY ${SOURCE_DIR}
-        OUTPUT_VARIABLE output ERROR_VARIABLE output
-        COMMAND_ERROR_IS_FATAL ANY)
+        RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
+    if(result)
+        message(FATAL_ERROR "${name}: ${output}")
+    endif()
     # For instance a class whose context it does not find.
     if(output)
         message(SEND_ERROR "${name}: ${output}")
