@@ -12,7 +12,7 @@ function(extract_example interface output)
     list(TRANSFORM lines REPLACE "^///    " "")
     list(JOIN lines "\n" code)
     string(REPLACE ${semicolon} ";" code "${code}")
-    file(CONFIGURE OUTPUT ${output} @ONLY CONTENT "#pragma once
+    set(header "#pragma once
 
 #include \"IOperationPlugin.h\"
 #include \"Operation.h\"
@@ -21,6 +21,14 @@ function(extract_example interface output)
 #include <QDataStream>
 #include <QDebug>
 
-@code@
+${code}
 ")
+    # What has not changed keeps its time, and what includes it is not compiled again.
+    set(previous "")
+    if(EXISTS ${output})
+        file(READ ${output} previous)
+    endif()
+    if(NOT header STREQUAL previous)
+        file(WRITE ${output} "${header}")
+    endif()
 endfunction()
