@@ -40,6 +40,11 @@ public:
     /// Puts an element into a cell. Cells before it that are not there become empty texts.
     void setValue(const QModelIndex &cell, const QVariant &value);
 
+    // Beside those of the base class, which take one row or column and a number of them.
+    using QAbstractTableModel::moveRows;
+    using QAbstractTableModel::removeColumns;
+    using QAbstractTableModel::removeRows;
+
     /// A new row in front of the one at `row`: an empty text, in a table as many as there are
     /// columns.
     void insertRow(int row);
