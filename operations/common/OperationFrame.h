@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Operation.h"
+
 #include <QDataStream>
 #include <QString>
 
