@@ -5,7 +5,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 # What building and testing needs, as Debian and Ubuntu call it.
 needed_packages=(g++ cmake ninja-build qtbase5-dev qtbase5-dev-tools libqt5svg5-dev qttools5-dev
-                 qttools5-dev-tools qttranslations5-l10n fonts-dejavu-core groff-base)
+                 qttools5-dev-tools qttranslations5-l10n fonts-dejavu-core groff-base abigail-tools)
 
 as_root() {
     if [[ $EUID -eq 0 ]]; then
