@@ -55,17 +55,17 @@ QAction *FileActions::addAction(const QString &name, const QString &icon, const 
 void FileActions::createActions()
 {
     m_new = addAction(QStringLiteral("new"), QStringLiteral("new"), tr("新建(&N)"),
-                      QKeySequence(Qt::CTRL + Qt::Key_N));
+                      QKeySequence(int(Qt::CTRL) + Qt::Key_N));
     m_open = addAction(QStringLiteral("open"), QStringLiteral("open"), tr("打开(&O)…"),
-                       QKeySequence(Qt::CTRL + Qt::Key_O));
+                       QKeySequence(int(Qt::CTRL) + Qt::Key_O));
     m_save = addAction(QStringLiteral("save"), QStringLiteral("save"), tr("保存(&S)"),
-                       QKeySequence(Qt::CTRL + Qt::Key_S));
+                       QKeySequence(int(Qt::CTRL) + Qt::Key_S));
     m_saveAs = addAction(QStringLiteral("saveAs"), QStringLiteral("save-as"), tr("另存为(&A)…"),
                          QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_S));
     m_restore = addAction(QStringLiteral("restore"), QStringLiteral("reload"),
                           tr("恢复未保存的任务(&V)…"), {});
     m_quit = addAction(QStringLiteral("quit"), QStringLiteral("close"), tr("退出(&Q)"),
-                       QKeySequence(Qt::CTRL + Qt::Key_Q));
+                       QKeySequence(int(Qt::CTRL) + Qt::Key_Q));
     m_quit->setMenuRole(QAction::QuitRole);
     connect(m_new, &QAction::triggered, this, &FileActions::startNew);
     connect(m_open, &QAction::triggered, this, &FileActions::chooseAndOpen);

@@ -45,16 +45,16 @@ void StepActions::createActions()
                      QKeySequence::Paste, &StepActions::paste);
     QAction *const copies =
         create(QStringLiteral("steps.duplicate"), tr("创建副本(&D)"), QStringLiteral("duplicate"),
-               Qt::CTRL + Qt::Key_D, &StepActions::duplicate);
+               int(Qt::CTRL) + Qt::Key_D, &StepActions::duplicate);
     QAction *const removal =
         create(QStringLiteral("steps.delete"), tr("删除(&L)"), QStringLiteral("delete"),
                QKeySequence::Delete, &StepActions::remove);
     m_selectAll = create(QStringLiteral("steps.selectAll"), tr("全选(&S)"), QStringLiteral("list"),
                          QKeySequence::SelectAll, &StepActions::selectAll);
     m_moveUp = create(QStringLiteral("steps.moveUp"), tr("上移(&M)"), QStringLiteral("up"),
-                      Qt::ALT + Qt::Key_Up, &StepActions::moveUp);
+                      int(Qt::ALT) + Qt::Key_Up, &StepActions::moveUp);
     m_moveDown = create(QStringLiteral("steps.moveDown"), tr("下移(&O)"), QStringLiteral("down"),
-                        Qt::ALT + Qt::Key_Down, &StepActions::moveDown);
+                        int(Qt::ALT) + Qt::Key_Down, &StepActions::moveDown);
     // F9 is the window's, for the current step.
     QAction *const breakpoint =
         create(QStringLiteral("steps.breakpoint"), tr("设置或取消断点(&B)"),

@@ -134,17 +134,17 @@ void ListGrid::addAction(QToolBar *bar, const QString &name, const QString &symb
 void ListGrid::addRowActions(QToolBar &bar)
 {
     addAction(&bar, QStringLiteral("grid.addRow"), QStringLiteral("add"), tr("添加行"),
-              Qt::CTRL + Qt::Key_Insert, [this] { addRow(); });
+              int(Qt::CTRL) + Qt::Key_Insert, [this] { addRow(); });
     addAction(&bar, QStringLiteral("grid.removeRows"), QStringLiteral("delete"), tr("删除行"),
-              Qt::CTRL + Qt::Key_Delete, [this] {
+              int(Qt::CTRL) + Qt::Key_Delete, [this] {
                   const QModelIndex current = m_table->currentIndex();
                   m_model->removeRows(selectedRows());
                   goTo(current.row(), current.column());
               });
     addAction(&bar, QStringLiteral("grid.up"), QStringLiteral("up"), tr("上移行"),
-              Qt::ALT + Qt::Key_Up, [this] { moveRows(-1); });
+              int(Qt::ALT) + Qt::Key_Up, [this] { moveRows(-1); });
     addAction(&bar, QStringLiteral("grid.down"), QStringLiteral("down"), tr("下移行"),
-              Qt::ALT + Qt::Key_Down, [this] { moveRows(1); });
+              int(Qt::ALT) + Qt::Key_Down, [this] { moveRows(1); });
 }
 
 void ListGrid::addColumnActions(QToolBar &bar)

@@ -93,7 +93,7 @@ QToolBar *TextViewer::createBar()
     };
     shortcut(QKeySequence::Find, &SearchBar::begin);
     shortcut(Qt::Key_F3, &SearchBar::findNext);
-    shortcut(Qt::SHIFT + Qt::Key_F3, &SearchBar::findPrevious);
+    shortcut(int(Qt::SHIFT) + Qt::Key_F3, &SearchBar::findPrevious);
     return bar;
 }
 

@@ -42,7 +42,7 @@ QWidget *ValueDialog::createButtons()
     if (!isReadOnly()) {
         QPushButton *const ok = buttons->addButton(tr("确定"), QDialogButtonBox::AcceptRole);
         ok->setObjectName(QStringLiteral("value.ok"));
-        ok->setShortcut(Qt::CTRL + Qt::Key_Return);
+        ok->setShortcut(int(Qt::CTRL) + Qt::Key_Return);
         ok->setToolTip(tr("确定 (Ctrl+Enter)"));
         connect(buttons, &QDialogButtonBox::accepted, this, &ValueDialog::accept);
     }

@@ -138,22 +138,22 @@ void VariablesPanel::createActions()
         ->setIconText(tr("添加变量"));
     m_onSelection +=
         addAction(QStringLiteral("duplicate"), QStringLiteral("duplicate"), tr("复制一份(&D)"),
-                  Qt::CTRL + Qt::Key_D, [this] { duplicateVariables(); });
+                  int(Qt::CTRL) + Qt::Key_D, [this] { duplicateVariables(); });
     m_onSelection +=
         addAction(QStringLiteral("delete"), QStringLiteral("delete"), tr("删除变量(&E)"),
                   QKeySequence::Delete, [this] { deleteVariables(); });
     addSeparator();
     m_onSelection += addAction(QStringLiteral("rename"), QStringLiteral("edit"), tr("重命名(&M)"),
-                               Qt::SHIFT + Qt::Key_F2, [this] { renameVariable(); });
+                               int(Qt::SHIFT) + Qt::Key_F2, [this] { renameVariable(); });
     m_onSelection += addAction(QStringLiteral("open"), QStringLiteral("text"), tr("打开值(&O)…"),
                                Qt::Key_F4, [this] { openCurrent(); });
     m_onSelection += addAction(QStringLiteral("copyValue"), QStringLiteral("copy"),
                                tr("复制值(&C)"), QKeySequence::Copy, [this] { copyValue(); });
     addSeparator();
     m_up = addAction(QStringLiteral("up"), QStringLiteral("up"), tr("上移(&U)"),
-                     Qt::ALT + Qt::Key_Up, [this] { moveVariable(-1); });
+                     int(Qt::ALT) + Qt::Key_Up, [this] { moveVariable(-1); });
     m_down = addAction(QStringLiteral("down"), QStringLiteral("down"), tr("下移(&N)"),
-                       Qt::ALT + Qt::Key_Down, [this] { moveVariable(1); });
+                       int(Qt::ALT) + Qt::Key_Down, [this] { moveVariable(1); });
     m_table->setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 

@@ -12,7 +12,8 @@ EditActions::EditActions(TaskDocument &document, QObject *parent)
     m_undo->setObjectName(QStringLiteral("edit.undo"));
     m_undo->setShortcuts(QKeySequence::Undo);
     m_redo->setObjectName(QStringLiteral("edit.redo"));
-    m_redo->setShortcuts({QKeySequence(QKeySequence::Redo), QKeySequence(Qt::CTRL + Qt::Key_Y)});
+    m_redo->setShortcuts(
+        {QKeySequence(QKeySequence::Redo), QKeySequence(int(Qt::CTRL) + Qt::Key_Y)});
     connect(m_undo, &QAction::triggered, &document, &TaskDocument::undo);
     connect(m_redo, &QAction::triggered, &document, &TaskDocument::redo);
     connect(&document.undoStack(), &QUndoStack::indexChanged, this, &EditActions::follow);
