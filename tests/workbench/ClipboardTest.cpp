@@ -75,12 +75,12 @@ StepState ClipboardTest::step(const QString &typeId, const QString &name,
 
 TaskState ClipboardTest::pasted(const QMimeData &mime) const
 {
-    Result<Task> task = taskFromMime(mime, m_catalog);
-    if (!task) {
-        qWarning("%s", qPrintable(task.problem().toString()));
+    Result<Task> read = taskFromMime(mime, m_catalog);
+    if (!read) {
+        qWarning("%s", qPrintable(read.problem().toString()));
         return {};
     }
-    return TaskState::fromTask(std::move(task.value()));
+    return TaskState::fromTask(std::move(read.value()));
 }
 
 void ClipboardTest::readsTextsOfPeople_data()
@@ -208,13 +208,13 @@ void ClipboardTest::copiesACompleteTask()
     QVERIFY(!mime->hasFormat(packedTaskMimeType()));
     QVERIFY(mime->text().contains("\n    \"steps\": ["));
     const QJsonObject json = QJsonDocument::fromJson(mime->text().toUtf8()).object();
-    const Result<Task> task = TaskReader(m_catalog).read(json);
-    QVERIFY(task);
-    QCOMPARE(task.value().variables.size(), 1);
-    QCOMPARE(task.value().variables.first().name, "line");
-    QCOMPARE(task.value().variables.first().value, QVariant("v"));
-    QCOMPARE(task.value().steps.size(), 1U);
-    QCOMPARE(task.value().steps.front()->property("sourceText"), QVariant("$line"));
+    const Result<Task> read = TaskReader(m_catalog).read(json);
+    QVERIFY(read);
+    QCOMPARE(read.value().variables.size(), 1);
+    QCOMPARE(read.value().variables.first().name, "line");
+    QCOMPARE(read.value().variables.first().value, QVariant("v"));
+    QCOMPARE(read.value().steps.size(), 1U);
+    QCOMPARE(read.value().steps.front()->property("sourceText"), QVariant("$line"));
 }
 
 void ClipboardTest::takesTheVariablesInUse_data()
