@@ -1,7 +1,8 @@
 # Builds the plug-in as a host vendor would: against a folder of headers and a library file, with
 # nothing of the reference host. Fails when that does not give a plug-in, or gives anything else.
 #
-#   cmake -D SOURCE_DIR=... -D WORK_DIR=... -D LIBRARY=... -D OPRUN=... -P BuildAgainstHost.cmake
+#   cmake -D SOURCE_DIR=... -D WORK_DIR=... -D LIBRARY=... -D OPRUN=... -D COMPILER=...
+#         -P BuildAgainstHost.cmake
 
 set(ENV{LC_ALL} C) # texts of plug-ins as in their sources
 
@@ -18,7 +19,8 @@ function(run)
 endfunction()
 
 run(${CMAKE_COMMAND} -S ${SOURCE_DIR} -B ${WORK_DIR}/build -G ${GENERATOR}
-    -D CMAKE_BUILD_TYPE=${BUILD_TYPE} -D TEXTOPER_SANITIZERS=${SANITIZERS}
+    -D CMAKE_CXX_COMPILER=${COMPILER} -D CMAKE_BUILD_TYPE=${BUILD_TYPE}
+    -D TEXTOPER_SANITIZERS=${SANITIZERS}
     -D OPERATIONCORE_INCLUDE_DIR=${WORK_DIR}/sdk/include
     -D OPERATIONCORE_LIBRARY=${WORK_DIR}/sdk/lib/${library})
 run(${CMAKE_COMMAND} --build ${WORK_DIR}/build)
