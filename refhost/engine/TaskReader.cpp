@@ -181,7 +181,9 @@ Result<std::unique_ptr<Operation>> TaskReader::readStep(const QJsonValue &json,
     if (!json.isObject())
         return wrongKind(place, json, EngineText::tr("an object with \"type\" and properties"));
     QJsonObject settings = json.toObject();
-    const QJsonValue typeId = settings.take(typeKey());
+    // Not with "take": up to Qt 5.15.2 that takes it out of the caller's object, too.
+    const QJsonValue typeId = settings.value(typeKey());
+    settings.remove(typeKey());
     const CatalogEntry *const entry = m_catalog.find(typeId.toString());
     if (!entry)
         return unknownType(typePlace(place), typeId, m_catalog.typeIds());
