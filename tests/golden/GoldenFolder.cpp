@@ -113,18 +113,19 @@ std::optional<Problem> writeGoldenFolder(const QString &path, const QList<Golden
                                          const QByteArray &task)
 {
     const Problem unwritable{Problem::Reason::UnwritableFile, path, {}, "cannot be made"};
-    if (QFileInfo::exists(path))
+    if (QFileInfo::exists(path)) {
         return Problem{Problem::Reason::UnwritableFile,
                        path,
                        {},
                        "is there already; what a version has written never changes"};
+    }
     // Put together beside it, so that it appears whole.
     QTemporaryDir folder(path + "-XXXXXX");
     if (!folder.isValid())
         return unwritable;
     const QMap<QString, QByteArray> files = filesOf(records, task);
     for (auto file = files.cbegin(); file != files.cend(); ++file) {
-        if (const auto problem = writeFileBytes(folder.filePath(file.key()), file.value()))
+        if (auto problem = writeFileBytes(folder.filePath(file.key()), file.value()))
             return problem;
     }
     if (!QFile::setPermissions(folder.path(), QFile::permissions(folder.path()) | QFile::ReadGroup |
