@@ -14,4 +14,4 @@ function(change pattern)
 endfunction()
 
 change("/man1/|/changelog\\.Debian$" gzip -9 --no-name)
-change("/oprun$|/oprun-probe$|/bin/opworkbench$|\\.so$" chrpath --delete)
+change("/bin/op[a-z]+$|/oprun-probe$|/plugins/.*\\.so$" chrpath --delete)

@@ -27,6 +27,12 @@ QVector<Elsewhere> commandsRunElsewhere()
         {"scripts/package", By::Ci, "scripts/package release"},
         {"scripts/try-packages", By::Ci, "scripts/try-packages"},
 
+        // docs/compatibility.md
+        {"scripts/update-golden 1.1", By::People, "writes the records of a version to come"},
+        {"cmake -S . -B build -G Ninja -D CMAKE_BUILD_TYPE=Release && cmake --build build && "
+         "cd build && ctest",
+         By::People, "takes a system with that CMake; scripts/test-on has it"},
+
         // docs/mutation.md
         {"scripts/mutate", By::People, hours},
         {"scripts/mutate --file 'TextPad*'", By::People, hours},
