@@ -121,8 +121,7 @@ int runCommand(const Command &command, QCommandLineParser &parser, const QString
     try {
         status = command.run(parser, given, console);
     } catch (const std::bad_alloc &) {
-        // Steps go on without what does not fit; showing or reading what does can still be too
-        // much.
+        // Steps go on without what does not fit; showing what does can still be too much.
         console.complain(QStringLiteral("what this takes does not fit into memory"));
     }
     return console.flush() ? status : BadInput;
