@@ -1,7 +1,7 @@
 #include "refhost/workbench/variables/TextViewer.h"
 #include "refhost/workbench/variables/TextFile.h"
 #include "refhost/workbench/variables/TextRows.h"
-#include "refhost/workbench/variables/TextSearch.h"
+#include "refhost/workbench/variables/SlicedSearch.h"
 #include "refhost/workbench/variables/WholeTextEdit.h"
 
 #include "tests/support/QuietTest.h"
@@ -222,14 +222,14 @@ void TextViewerTest::searches()
     QFETCH(QString, text);
     QFETCH(QString, sought);
     for (int from = 0; from <= text.size(); ++from) {
-        TextSearch forward(text, sought, from, TextSearch::Direction::Forward);
-        while (forward.advance(1) == TextSearch::State::Searching) {
+        SlicedSearch forward(text, sought, from, SlicedSearch::Direction::Forward);
+        while (forward.advance(1) == SlicedSearch::State::Searching) {
         }
         const int next = text.indexOf(sought, from);
         QCOMPARE(forward.position(), next < 0 ? text.indexOf(sought) : next);
 
-        TextSearch backward(text, sought, from, TextSearch::Direction::Backward);
-        while (backward.advance(1) == TextSearch::State::Searching) {
+        SlicedSearch backward(text, sought, from, SlicedSearch::Direction::Backward);
+        while (backward.advance(1) == SlicedSearch::State::Searching) {
         }
         int previous = -1;
         for (int at = 0; at + sought.size() <= from; ++at)
@@ -243,8 +243,8 @@ void TextViewerTest::searchesRepetitiveTexts()
     const QString text(2000000, 'a');
     QElapsedTimer clock;
     clock.start();
-    TextSearch search(text, QString(20000, 'a') + "b", 5, TextSearch::Direction::Forward);
-    while (search.advance(1 << 20) == TextSearch::State::Searching) {
+    SlicedSearch search(text, QString(20000, 'a') + "b", 5, SlicedSearch::Direction::Forward);
+    while (search.advance(1 << 20) == SlicedSearch::State::Searching) {
     }
     QCOMPARE(search.position(), -1);
     // Comparing at every place would take hours.

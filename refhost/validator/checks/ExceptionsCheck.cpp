@@ -50,8 +50,8 @@ ExceptionsCheck::ExceptionsCheck()
 
 void ExceptionsCheck::examine(Specimen &specimen, CheckContext &) const
 {
-    const QList<Setting> settings = settingsToTry(specimen.schema());
-    for (const Setting &setting : settings) {
+    const QList<TrialSetting> settings = settingsToTry(specimen.schema());
+    for (const TrialSetting &setting : settings) {
         const auto step = specimen.newStep();
         setOrdinary(*step, specimen.schema());
         setting.applyTo(*step);

@@ -14,7 +14,7 @@ namespace {
 struct Case
 {
     QString name;
-    QList<Setting> settings;
+    QList<TrialSetting> settings;
 };
 
 VariableScope largeScope()
@@ -42,9 +42,9 @@ QStringList propertiesThat(bool (*is)(const PropertySchema &), const Specimen &s
     return names;
 }
 
-QList<Setting> forAll(const QStringList &names, const QString &value)
+QList<TrialSetting> forAll(const QStringList &names, const QString &value)
 {
-    QList<Setting> settings;
+    QList<TrialSetting> settings;
     for (const QString &name : names)
         settings.append({name, value});
     return settings;
@@ -59,7 +59,7 @@ QList<Case> textCases(const Specimen &specimen)
     for (const QString &operand : operands) {
         cases.append({operand + QStringLiteral(" of 32 MiB"), {{operand, large}}});
         cases.append({QStringLiteral("all texts but %1 of 32 MiB").arg(operand),
-                      forAll(operands, large) + QList<Setting>{{operand, QStringLiteral("a")}}});
+                      forAll(operands, large) + QList<TrialSetting>{{operand, QStringLiteral("a")}}});
     }
     return cases;
 }
@@ -82,9 +82,9 @@ QList<Case> otherCases(const Specimen &specimen)
 }
 
 /// The modes in which to try all cases: each choice of each list.
-QList<Setting> modes(const Specimen &specimen)
+QList<TrialSetting> modes(const Specimen &specimen)
 {
-    QList<Setting> settings{{}};
+    QList<TrialSetting> settings{{}};
     for (const PropertySchema &property : specimen.schema().properties()) {
         for (int i = 1; i < property.choices.size(); ++i)
             settings.append({property.name, i});
@@ -94,7 +94,7 @@ QList<Setting> modes(const Specimen &specimen)
     return settings;
 }
 
-void examineCase(Specimen &specimen, const Case &large, const Setting &mode,
+void examineCase(Specimen &specimen, const Case &large, const TrialSetting &mode,
                  const VariableScope &variables)
 {
     const QString place = QStringLiteral("%1, %2").arg(large.name, mode.toString());
@@ -102,11 +102,11 @@ void examineCase(Specimen &specimen, const Case &large, const Setting &mode,
     const auto step = specimen.newStep();
     setOrdinary(*step, specimen.schema());
     mode.applyTo(*step);
-    for (const Setting &setting : large.settings)
+    for (const TrialSetting &setting : large.settings)
         setting.applyTo(*step);
     VariableScope scope = variables;
     scope.declare(resultName(), specimen.resultType());
-    const StepTrace trace = traceStep(*step, scope);
+    const TracedRun trace = traceStep(*step, scope);
     const QString fault = brokenRule(specimen, trace, resultName(), {});
     if (!fault.isEmpty())
         specimen.fail(QStringLiteral("%1: %2").arg(place, fault));
@@ -137,8 +137,8 @@ void LargeTextsCheck::examine(Specimen &specimen, CheckContext &) const
     static const VariableScope variables = largeScope();
     limitMemory(mebibytes);
     const QList<Case> cases = textCases(specimen) + otherCases(specimen);
-    const QList<Setting> settings = modes(specimen);
-    for (const Setting &mode : settings) {
+    const QList<TrialSetting> settings = modes(specimen);
+    for (const TrialSetting &mode : settings) {
         for (const Case &large : cases)
             examineCase(specimen, large, mode, variables);
     }

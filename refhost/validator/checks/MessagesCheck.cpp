@@ -32,9 +32,9 @@ void examineMessage(Specimen &specimen, const QString &place, const LoggedMessag
 
 void examineRuns(Specimen &specimen)
 {
-    const QList<Setting> settings = settingsToTry(specimen.schema());
+    const QList<TrialSetting> settings = settingsToTry(specimen.schema());
     for (const VarType type : {specimen.resultType(), VarType::None, VarType::List}) {
-        for (const Setting &setting : settings) {
+        for (const TrialSetting &setting : settings) {
             const StepTrial trial = tryStep(specimen, setting, type);
             for (const LoggedMessage &message : trial.trace.messages)
                 examineMessage(specimen, setting.toString(), message);
@@ -43,7 +43,7 @@ void examineRuns(Specimen &specimen)
 }
 
 /// Everything but a run is silent.
-void examineSilence(Specimen &specimen, const Setting &setting)
+void examineSilence(Specimen &specimen, const TrialSetting &setting)
 {
     specimen.doing(QStringLiteral("messages, ") + setting.toString());
     const auto step = specimen.newStep();
@@ -80,7 +80,7 @@ MessagesCheck::MessagesCheck()
 void MessagesCheck::examine(Specimen &specimen, CheckContext &) const
 {
     examineRuns(specimen);
-    const QList<Setting> settings = settingsToTry(specimen.schema());
-    for (const Setting &setting : settings)
+    const QList<TrialSetting> settings = settingsToTry(specimen.schema());
+    for (const TrialSetting &setting : settings)
         examineSilence(specimen, setting);
 }

@@ -68,7 +68,7 @@ QStringList valuesFor(const PropertySchema &property)
     return {};
 }
 
-void examineSetting(Specimen &specimen, const Setting &setting)
+void examineSetting(Specimen &specimen, const TrialSetting &setting)
 {
     const QString place =
         QStringLiteral("a list nested %1 deep, %2").arg(depth).arg(setting.toString());
@@ -78,7 +78,7 @@ void examineSetting(Specimen &specimen, const Setting &setting)
     setting.applyTo(*step);
     auto *const scope = new VariableScope(deepScope());
     scope->declare(resultName(), specimen.resultType());
-    StepTrace trace;
+    TracedRun trace;
     SmallThread thread([&] { trace = traceStep(*step, *scope); });
     thread.start();
     thread.wait();

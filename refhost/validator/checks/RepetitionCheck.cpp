@@ -14,7 +14,7 @@
 namespace {
 
 /// What differs between two runs that should be the same, empty when nothing does.
-QString difference(const StepTrace &actual, const VariableScope &after, const StepTrial &expected)
+QString difference(const TracedRun &actual, const VariableScope &after, const StepTrial &expected)
 {
     const QStringList names = differingNames(after, expected.after);
     if (!names.isEmpty()) {
@@ -40,7 +40,7 @@ public:
     {
     }
 
-    void run(const Setting &setting)
+    void run(const TrialSetting &setting)
     {
         const StepTrial expected = tryStep(m_specimen, setting);
         const StepTrial second = tryStep(m_specimen, setting);
@@ -51,14 +51,14 @@ public:
         const QStringList unchanged = values();
         // A step that keeps a scope in mind is found out only while the scope is there.
         VariableScope &scope = m_scopes.emplace_back(expected.before);
-        const StepTrace trace = traceStep(*m_step, scope);
+        const TracedRun trace = traceStep(*m_step, scope);
         tell(setting, QStringLiteral("a step used before"), difference(trace, scope, expected));
         if (values() != unchanged)
             m_specimen.fail(setting.toString() + QStringLiteral(": the run changes a property"));
     }
 
 private:
-    void tell(const Setting &setting, const QString &who, const QString &fault)
+    void tell(const TrialSetting &setting, const QString &who, const QString &fault)
     {
         if (!fault.isEmpty())
             m_specimen.fail(QStringLiteral("%1: with %2 %3").arg(setting.toString(), who, fault));
@@ -90,7 +90,7 @@ RepetitionCheck::RepetitionCheck()
 void RepetitionCheck::examine(Specimen &specimen, CheckContext &) const
 {
     UsedStep step(specimen);
-    const QList<Setting> settings = settingsToTry(specimen.schema());
-    for (const Setting &setting : settings)
+    const QList<TrialSetting> settings = settingsToTry(specimen.schema());
+    for (const TrialSetting &setting : settings)
         step.run(setting);
 }

@@ -10,13 +10,13 @@
 namespace {
 
 /// One line, and one more where the setting names another variable that may be unfit, too.
-int mostWarnings(const Specimen &specimen, const Setting &setting)
+int mostWarnings(const Specimen &specimen, const TrialSetting &setting)
 {
     const PropertySchema *const property = specimen.schema().property(setting.property);
     return property && isVariableName(*property) ? 2 : 1;
 }
 
-void examineTrial(Specimen &specimen, const Setting &setting, VarType type)
+void examineTrial(Specimen &specimen, const TrialSetting &setting, VarType type)
 {
     const StepTrial trial = tryStep(specimen, setting, type);
     const QString variable = type == VarType::None ? QStringLiteral("not declared")
@@ -50,10 +50,10 @@ ResultTypesCheck::ResultTypesCheck()
 
 void ResultTypesCheck::examine(Specimen &specimen, CheckContext &) const
 {
-    const QList<Setting> settings = settingsToTry(specimen.schema());
+    const QList<TrialSetting> settings = settingsToTry(specimen.schema());
     for (const VarType type : {VarType::None, VarType::Int, VarType::Double, VarType::String,
                                VarType::Bool, VarType::List, VarType::Table}) {
-        for (const Setting &setting : settings)
+        for (const TrialSetting &setting : settings)
             examineTrial(specimen, setting, type);
     }
 }

@@ -27,13 +27,13 @@ QString faultOf(const Specimen &specimen, const Task &task)
         return QStringLiteral("toString or description throws %1").arg(*shown);
     const VariableScope before = task.startScope();
     VariableScope first = before;
-    const StepTrace trace = traceStep(step, first);
+    const TracedRun trace = traceStep(step, first);
     QString rule = brokenRule(specimen, trace, step.property("resultVar").toString(),
                               differingNames(first, before));
     if (!rule.isEmpty())
         return rule;
     VariableScope second = before;
-    const StepTrace repeated = traceStep(step, second);
+    const TracedRun repeated = traceStep(step, second);
     const bool isSame = areSame(first, second) && repeated.messages == trace.messages;
     return isSame ? QString() : QStringLiteral("doOperation does something else a second time");
 }

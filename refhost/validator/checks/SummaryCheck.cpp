@@ -56,7 +56,7 @@ void examineVariables(Specimen &specimen)
         const QString name = QStringLiteral("Qvx%1Zk").arg(names.size());
         names.append(name);
         const QString value = isVariableName(property) ? name : QLatin1Char('$') + name;
-        Setting{property.name, value}.applyTo(*step);
+        TrialSetting{property.name, value}.applyTo(*step);
     }
     specimen.doing(QStringLiteral("toString, variables"));
     QString summary;
@@ -82,8 +82,8 @@ void SummaryCheck::examine(Specimen &specimen, CheckContext &) const
 {
     specimen.doing(QStringLiteral("toString, defaults"));
     examineSummary(specimen, specimen.prototype(), QStringLiteral("defaults"));
-    const QList<Setting> settings = settingsToTry(specimen.schema());
-    for (const Setting &setting : settings) {
+    const QList<TrialSetting> settings = settingsToTry(specimen.schema());
+    for (const TrialSetting &setting : settings) {
         specimen.doing(QStringLiteral("toString, ") + setting.toString());
         const auto step = specimen.newStep();
         setOrdinary(*step, specimen.schema());

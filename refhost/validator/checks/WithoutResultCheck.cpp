@@ -8,7 +8,7 @@
 
 namespace {
 
-void examineSetting(Specimen &specimen, const Setting &setting)
+void examineSetting(Specimen &specimen, const TrialSetting &setting)
 {
     const QString place = QStringLiteral("resultVar empty, ") + setting.toString();
     specimen.doing(QStringLiteral("doOperation, ") + place);
@@ -19,7 +19,7 @@ void examineSetting(Specimen &specimen, const Setting &setting)
     VariableScope scope = sampleScope(specimen.resultType());
     // No host declares such a variable; a step that asks the scope alone would take it.
     scope.declare(QString(), specimen.resultType());
-    const StepTrace trace = traceStep(*step, scope);
+    const TracedRun trace = traceStep(*step, scope);
     if (!trace.written.isEmpty())
         specimen.fail(QStringLiteral("%1: writes \"%2\"").arg(place, trace.written.constFirst()));
     if (!trace.thrown && trace.warningCount() != 1) {
@@ -40,7 +40,7 @@ WithoutResultCheck::WithoutResultCheck()
 
 void WithoutResultCheck::examine(Specimen &specimen, CheckContext &) const
 {
-    const QList<Setting> settings = settingsToTry(specimen.schema());
-    for (const Setting &setting : settings)
+    const QList<TrialSetting> settings = settingsToTry(specimen.schema());
+    for (const TrialSetting &setting : settings)
         examineSetting(specimen, setting);
 }

@@ -58,8 +58,8 @@ void WithoutScopeCheck::examine(Specimen &specimen, CheckContext &) const
     const QString situation = QStringLiteral("without a scope");
     specimen.doing(QStringLiteral("doOperation ") + situation);
     demandSilence(specimen, *specimen.newStep(), situation + QStringLiteral(", at its defaults"));
-    const QList<Setting> settings = settingsToTry(specimen.schema());
-    for (const Setting &setting : settings) {
+    const QList<TrialSetting> settings = settingsToTry(specimen.schema());
+    for (const TrialSetting &setting : settings) {
         const auto step = specimen.newStep();
         setOrdinary(*step, specimen.schema());
         setting.applyTo(*step);

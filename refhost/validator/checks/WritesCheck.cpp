@@ -13,8 +13,8 @@ WritesCheck::WritesCheck()
 
 void WritesCheck::examine(Specimen &specimen, CheckContext &) const
 {
-    const QList<Setting> settings = settingsToTry(specimen.schema());
-    for (const Setting &setting : settings) {
+    const QList<TrialSetting> settings = settingsToTry(specimen.schema());
+    for (const TrialSetting &setting : settings) {
         const StepTrial trial = tryStep(specimen, setting);
         // A variable may also be declared anew, which is no write.
         QStringList names = trial.trace.written + differingNames(trial.after, trial.before);

@@ -59,7 +59,7 @@ public:
                 m_source.onceIn(8) ? m_source.oneOf(allTypes) : m_specimen.resultType());
         auto step = m_specimen.newStep();
         for (const PropertySchema &property : m_specimen.schema().properties())
-            Setting{property.name, value(property)}.applyTo(*step);
+            TrialSetting{property.name, value(property)}.applyTo(*step);
         m_task.steps.push_back(std::move(step));
         return std::move(m_task);
     }

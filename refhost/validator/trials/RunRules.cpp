@@ -18,7 +18,7 @@ int mostWarnings(const Specimen &specimen)
 
 } // namespace
 
-QString brokenRule(const Specimen &specimen, const StepTrace &trace, const QString &resultVariable,
+QString brokenRule(const Specimen &specimen, const TracedRun &trace, const QString &resultVariable,
                    const QStringList &changed)
 {
     if (trace.thrown)

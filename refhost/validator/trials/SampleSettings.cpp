@@ -109,13 +109,13 @@ QVariantList valuesToTry(const PropertySchema &property)
 
 } // namespace
 
-void Setting::applyTo(Operation &step) const
+void TrialSetting::applyTo(Operation &step) const
 {
     if (!property.isEmpty())
         step.setProperty(property.toLatin1().constData(), value);
 }
 
-QString Setting::toString() const
+QString TrialSetting::toString() const
 {
     if (property.isEmpty())
         return QStringLiteral("ordinary settings");
@@ -141,12 +141,12 @@ bool isVariableName(const PropertySchema &property)
 void setOrdinary(Operation &step, const OperationSchema &schema)
 {
     for (const PropertySchema &property : schema.properties())
-        Setting{property.name, ordinaryValue(property)}.applyTo(step);
+        TrialSetting{property.name, ordinaryValue(property)}.applyTo(step);
 }
 
-QList<Setting> settingsToTry(const OperationSchema &schema)
+QList<TrialSetting> settingsToTry(const OperationSchema &schema)
 {
-    QList<Setting> settings{{}};
+    QList<TrialSetting> settings{{}};
     for (const PropertySchema &property : schema.properties()) {
         const QVariantList values = valuesToTry(property);
         for (const QVariant &value : values)

@@ -9,7 +9,7 @@
 class Operation;
 
 /// A value for one property of a step; for none when the name is empty.
-struct Setting
+struct TrialSetting
 {
     QString property;
     QVariant value;
@@ -34,4 +34,4 @@ void setOrdinary(Operation &step, const OperationSchema &schema);
 
 /// What a user may come to set in place of an ordinary value, one property at a time; the first is
 /// no change. `resultVar` keeps its ordinary value.
-QList<Setting> settingsToTry(const OperationSchema &schema);
+QList<TrialSetting> settingsToTry(const OperationSchema &schema);

@@ -8,17 +8,17 @@
 
 #include <algorithm>
 
-int StepTrace::warningCount() const
+int TracedRun::warningCount() const
 {
     return static_cast<int>(
         std::count_if(messages.begin(), messages.end(),
                       [](const LoggedMessage &message) { return message.type == QtWarningMsg; }));
 }
 
-StepTrace traceStep(Operation &step, VariableScope &scope)
+TracedRun traceStep(Operation &step, VariableScope &scope)
 {
     MessageLog log;
-    StepTrace trace;
+    TracedRun trace;
     scope.forgetWrites();
     step.setVariableScope(&scope);
     trace.thrown = thrownBy([&] { step.doOperation(); });
@@ -28,7 +28,7 @@ StepTrace traceStep(Operation &step, VariableScope &scope)
     return trace;
 }
 
-StepTrial tryStep(Specimen &specimen, const Setting &setting, VarType resultType)
+StepTrial tryStep(Specimen &specimen, const TrialSetting &setting, VarType resultType)
 {
     specimen.doing(QStringLiteral("doOperation, ") + setting.toString());
     const auto step = specimen.newStep();
@@ -41,7 +41,7 @@ StepTrial tryStep(Specimen &specimen, const Setting &setting, VarType resultType
     return trial;
 }
 
-StepTrial tryStep(Specimen &specimen, const Setting &setting)
+StepTrial tryStep(Specimen &specimen, const TrialSetting &setting)
 {
     return tryStep(specimen, setting, specimen.resultType());
 }

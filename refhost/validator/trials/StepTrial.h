@@ -13,7 +13,7 @@ class Operation;
 class Specimen;
 
 /// What a step did when it ran.
-struct StepTrace
+struct TracedRun
 {
     QStringList written; ///< the names of the variables it wrote
     QList<LoggedMessage> messages;
@@ -24,18 +24,18 @@ struct StepTrace
 };
 
 /// Runs the step on the scope. It has no scope afterwards.
-StepTrace traceStep(Operation &step, VariableScope &scope);
+TracedRun traceStep(Operation &step, VariableScope &scope);
 
 /// A run of a new step on sample variables.
 struct StepTrial
 {
     VariableScope before;
     VariableScope after;
-    StepTrace trace;
+    TracedRun trace;
 };
 
 /// Runs a new step with ordinary settings but for `setting`, its result variable declared as
 /// `resultType`.
-StepTrial tryStep(Specimen &specimen, const Setting &setting, VarType resultType);
+StepTrial tryStep(Specimen &specimen, const TrialSetting &setting, VarType resultType);
 /// The same with the result variable the operation asks for.
-StepTrial tryStep(Specimen &specimen, const Setting &setting);
+StepTrial tryStep(Specimen &specimen, const TrialSetting &setting);

@@ -47,12 +47,12 @@ SearchBar::SearchBar(WholeTextEdit &edit, QWidget *parent)
 
 void SearchBar::findNext()
 {
-    find(TextSearch::Direction::Forward);
+    find(SlicedSearch::Direction::Forward);
 }
 
 void SearchBar::findPrevious()
 {
-    find(TextSearch::Direction::Backward);
+    find(SlicedSearch::Direction::Backward);
 }
 
 void SearchBar::begin()
@@ -74,19 +74,19 @@ QToolButton *SearchBar::addButton(const QString &name, const QString &symbol,
     return button;
 }
 
-void SearchBar::find(TextSearch::Direction direction)
+void SearchBar::find(SlicedSearch::Direction direction)
 {
     if (m_sought->text().isEmpty()) {
         begin();
         return;
     }
     const int selected = m_edit.selectedText().size();
-    const bool isForward = direction == TextSearch::Direction::Forward;
+    const bool isForward = direction == SlicedSearch::Direction::Forward;
     // The next match may overlap the one that is selected, but is another.
     const int from = isForward ? m_edit.cursor() - (selected > 0 ? selected - 1 : 0)
                                : m_edit.cursor() - (selected > 0 ? 1 : 0);
     m_search =
-        std::make_unique<TextSearch>(m_edit.text(), m_sought->text(), qMax(0, from), direction);
+        std::make_unique<SlicedSearch>(m_edit.text(), m_sought->text(), qMax(0, from), direction);
     tell(tr("正在查找…"));
     m_timer.start();
     advance();
@@ -94,11 +94,11 @@ void SearchBar::find(TextSearch::Direction direction)
 
 void SearchBar::advance()
 {
-    const TextSearch::State state = m_search->advance(slice);
-    if (state == TextSearch::State::Searching)
+    const SlicedSearch::State state = m_search->advance(slice);
+    if (state == SlicedSearch::State::Searching)
         return;
     m_timer.stop();
-    if (state == TextSearch::State::NotFound) {
+    if (state == SlicedSearch::State::NotFound) {
         tell(tr("没有找到"));
         return;
     }

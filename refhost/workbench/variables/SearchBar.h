@@ -1,6 +1,6 @@
 #pragma once
 
-#include "refhost/workbench/variables/TextSearch.h"
+#include "refhost/workbench/variables/SlicedSearch.h"
 
 #include <QTimer>
 #include <QWidget>
@@ -29,7 +29,7 @@ public Q_SLOTS:
 
 private:
     QToolButton *addButton(const QString &name, const QString &symbol, const QString &toolTip);
-    void find(TextSearch::Direction direction);
+    void find(SlicedSearch::Direction direction);
     void advance();
     void tell(const QString &message);
 
@@ -37,5 +37,5 @@ private:
     QLineEdit *m_sought;
     QLabel *m_message;
     QTimer m_timer;
-    std::unique_ptr<TextSearch> m_search;
+    std::unique_ptr<SlicedSearch> m_search;
 };

@@ -5,7 +5,7 @@
 
 /// Looks for a text in another one, a slice at a time, in time that grows with the two lengths and
 /// no faster, however repetitive they are. Compares code units exactly. Goes round the end once.
-class TextSearch
+class SlicedSearch
 {
 public:
     enum class Direction { Forward, Backward };
@@ -13,7 +13,7 @@ public:
 
     /// Finds the first match that begins at or after `from`, backwards the last that ends at or
     /// before it, and then the rest of the text.
-    TextSearch(const QString &text, const QString &sought, int from, Direction direction);
+    SlicedSearch(const QString &text, const QString &sought, int from, Direction direction);
 
     /// Looks at `units` more code units at most.
     State advance(int units);

@@ -1,6 +1,6 @@
-#include "refhost/workbench/variables/TextSearch.h"
+#include "refhost/workbench/variables/SlicedSearch.h"
 
-TextSearch::TextSearch(const QString &text, const QString &sought, int from, Direction direction)
+SlicedSearch::SlicedSearch(const QString &text, const QString &sought, int from, Direction direction)
     : m_text(text)
     , m_sought(sought)
     , m_direction(direction)
@@ -20,7 +20,7 @@ TextSearch::TextSearch(const QString &text, const QString &sought, int from, Dir
     }
 }
 
-TextSearch::State TextSearch::advance(int units)
+SlicedSearch::State SlicedSearch::advance(int units)
 {
     for (; units > 0 && m_state == State::Searching; --units) {
         if (m_next == m_text.size()) {
@@ -44,17 +44,17 @@ TextSearch::State TextSearch::advance(int units)
     return m_state;
 }
 
-ushort TextSearch::unitAt(int i) const
+ushort SlicedSearch::unitAt(int i) const
 {
     return m_text.at(m_direction == Direction::Forward ? i : m_text.size() - 1 - i).unicode();
 }
 
-ushort TextSearch::soughtAt(int i) const
+ushort SlicedSearch::soughtAt(int i) const
 {
     return m_sought.at(m_direction == Direction::Forward ? i : m_sought.size() - 1 - i).unicode();
 }
 
-void TextSearch::wrap()
+void SlicedSearch::wrap()
 {
     if (m_hasWrapped) {
         m_state = State::NotFound;
