@@ -1,9 +1,6 @@
 #include "refhost/validator/checks/ChoicesCheck.h"
 
-#include "refhost/validator/CheckContext.h"
 #include "refhost/validator/OperationClass.h"
-
-#include "Operation.h"
 
 namespace {
 
@@ -23,9 +20,20 @@ void checkLabels(const QString &place, const QStringList &labels, Outcome &outco
     }
 }
 
-void checkProperty(const QString &name, const OperationClass &declared,
-                   const QMetaProperty &property, Outcome &outcome)
+} // namespace
+
+ChoicesCheck::ChoicesCheck()
+    : PropertyCheck(
+          {QStringLiteral("schema.choices"), 3,
+           QStringLiteral("COMBO properties, and no others, have choice lists of clean labels.")})
 {
+}
+
+void ChoicesCheck::examine(const QString &name, const OperationClass &declared,
+                           const QMetaProperty &property, Outcome &outcome) const
+{
+    if (declared.hasUnknownEditor(property))
+        return;
     const bool isCombo = declared.editor(property) == QLatin1String("COMBO");
     const auto choices = declared.value(QStringLiteral("choices"), nameOf(property));
     const QString place = QStringLiteral("%1: choices_%2").arg(name, nameOf(property));
@@ -37,27 +45,4 @@ void checkProperty(const QString &name, const OperationClass &declared,
     } else if (isCombo) {
         checkLabels(place, declared.choices(nameOf(property)), outcome);
     }
-}
-
-} // namespace
-
-ChoicesCheck::ChoicesCheck()
-    : Check({QStringLiteral("schema.choices"), 3,
-             QStringLiteral("COMBO properties, and no others, have choice lists of clean labels.")})
-{
-}
-
-Outcome ChoicesCheck::run(CheckContext &context) const
-{
-    Outcome outcome;
-    const QList<Operation *> prototypes = context.newPrototypes();
-    for (const Operation *prototype : prototypes) {
-        const QString name = context.nameOf(*prototype);
-        const OperationClass declared(*prototype);
-        for (const QMetaProperty &property : declared.properties()) {
-            if (!declared.hasUnknownEditor(property))
-                checkProperty(name, declared, property, outcome);
-        }
-    }
-    return outcome;
 }

@@ -1,12 +1,14 @@
 #pragma once
 
-#include "refhost/validator/Check.h"
+#include "refhost/validator/PropertyCheck.h"
 
 /// schema.choices: choice lists belong to COMBO properties and have clean labels.
-class ChoicesCheck : public Check
+class ChoicesCheck : public PropertyCheck
 {
 public:
     ChoicesCheck();
 
-    Outcome run(CheckContext &context) const override;
+protected:
+    void examine(const QString &name, const OperationClass &declared, const QMetaProperty &property,
+                 Outcome &outcome) const override;
 };

@@ -1,9 +1,6 @@
 #include "refhost/validator/checks/ConditionsCheck.h"
 
-#include "refhost/validator/CheckContext.h"
 #include "refhost/validator/OperationClass.h"
-
-#include "Operation.h"
 
 #include <QRegularExpression>
 
@@ -59,42 +56,31 @@ QString deciderFault(const OperationClass &declared, const QString &property,
     return {};
 }
 
-void checkProperty(const QString &name, const OperationClass &declared, const QString &property,
-                   Outcome &outcome)
+} // namespace
+
+ConditionsCheck::ConditionsCheck()
+    : PropertyCheck(
+          {QStringLiteral("schema.conditions"), 3,
+           QStringLiteral("Conditions name a mode of the same class and values it can have.")})
 {
-    const auto text = declared.value(QStringLiteral("show_when"), property);
+}
+
+void ConditionsCheck::examine(const QString &name, const OperationClass &declared,
+                              const QMetaProperty &property, Outcome &outcome) const
+{
+    const auto text = declared.value(QStringLiteral("show_when"), nameOf(property));
     if (!text)
         return;
-    const QString place = QStringLiteral("%1: show_when_%2: \"%3\"").arg(name, property, *text);
+    const QString place =
+        QStringLiteral("%1: show_when_%2: \"%3\"").arg(name, nameOf(property), *text);
     const auto condition = readCondition(*text);
     if (!condition) {
         outcome.fail(place + QStringLiteral("; expected the form mode=1 or mode=1|2"));
         return;
     }
-    const QString fault = deciderFault(declared, property, condition->decider);
+    const QString fault = deciderFault(declared, nameOf(property), condition->decider);
     if (!fault.isEmpty())
         outcome.fail(QStringLiteral("%1: %2").arg(place, fault));
     else
         checkValues(place, *condition, declared.choices(condition->decider).size(), outcome);
-}
-
-} // namespace
-
-ConditionsCheck::ConditionsCheck()
-    : Check({QStringLiteral("schema.conditions"), 3,
-             QStringLiteral("Conditions name a mode of the same class and values it can have.")})
-{
-}
-
-Outcome ConditionsCheck::run(CheckContext &context) const
-{
-    Outcome outcome;
-    const QList<Operation *> prototypes = context.newPrototypes();
-    for (const Operation *prototype : prototypes) {
-        const QString name = context.nameOf(*prototype);
-        const OperationClass declared(*prototype);
-        for (const QMetaProperty &property : declared.properties())
-            checkProperty(name, declared, nameOf(property), outcome);
-    }
-    return outcome;
 }

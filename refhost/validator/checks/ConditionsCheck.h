@@ -1,12 +1,14 @@
 #pragma once
 
-#include "refhost/validator/Check.h"
+#include "refhost/validator/PropertyCheck.h"
 
 /// schema.conditions: show_when names a mode of the same class and values it can have.
-class ConditionsCheck : public Check
+class ConditionsCheck : public PropertyCheck
 {
 public:
     ConditionsCheck();
 
-    Outcome run(CheckContext &context) const override;
+protected:
+    void examine(const QString &name, const OperationClass &declared, const QMetaProperty &property,
+                 Outcome &outcome) const override;
 };

@@ -1,9 +1,6 @@
 #include "refhost/validator/checks/EditorsCheck.h"
 
-#include "refhost/validator/CheckContext.h"
 #include "refhost/validator/OperationClass.h"
-
-#include "Operation.h"
 
 namespace {
 
@@ -29,24 +26,15 @@ QString editorFault(const OperationClass &declared, const QMetaProperty &propert
 } // namespace
 
 EditorsCheck::EditorsCheck()
-    : Check({QStringLiteral("schema.editors"), 3,
-             QStringLiteral("Editor words are known and fit the type of their property.")})
+    : PropertyCheck({QStringLiteral("schema.editors"), 3,
+                     QStringLiteral("Editor words are known and fit the type of their property.")})
 {
 }
 
-Outcome EditorsCheck::run(CheckContext &context) const
+void EditorsCheck::examine(const QString &name, const OperationClass &declared,
+                           const QMetaProperty &property, Outcome &outcome) const
 {
-    Outcome outcome;
-    const QList<Operation *> prototypes = context.newPrototypes();
-    for (const Operation *prototype : prototypes) {
-        const QString name = context.nameOf(*prototype);
-        const OperationClass declared(*prototype);
-        for (const QMetaProperty &property : declared.properties()) {
-            const QString fault = editorFault(declared, property);
-            if (!fault.isEmpty())
-                outcome.fail(
-                    QStringLiteral("%1: editor_%2: %3").arg(name, nameOf(property), fault));
-        }
-    }
-    return outcome;
+    const QString fault = editorFault(declared, property);
+    if (!fault.isEmpty())
+        outcome.fail(QStringLiteral("%1: editor_%2: %3").arg(name, nameOf(property), fault));
 }

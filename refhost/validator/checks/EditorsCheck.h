@@ -1,12 +1,14 @@
 #pragma once
 
-#include "refhost/validator/Check.h"
+#include "refhost/validator/PropertyCheck.h"
 
 /// schema.editors: editor words are known and fit the type of their property.
-class EditorsCheck : public Check
+class EditorsCheck : public PropertyCheck
 {
 public:
     EditorsCheck();
 
-    Outcome run(CheckContext &context) const override;
+protected:
+    void examine(const QString &name, const OperationClass &declared, const QMetaProperty &property,
+                 Outcome &outcome) const override;
 };

@@ -1,9 +1,6 @@
 #include "refhost/validator/checks/PropertiesCheck.h"
 
-#include "refhost/validator/CheckContext.h"
 #include "refhost/validator/OperationClass.h"
-
-#include "Operation.h"
 
 namespace {
 
@@ -43,24 +40,16 @@ QStringList faultsOf(const QMetaProperty &property)
 } // namespace
 
 PropertiesCheck::PropertiesCheck()
-    : Check({QStringLiteral("schema.properties"), 3,
-             QStringLiteral("Properties are declared with READ and WRITE only, of a stored type.")})
+    : PropertyCheck(
+          {QStringLiteral("schema.properties"), 3,
+           QStringLiteral("Properties are declared with READ and WRITE only, of a stored type.")})
 {
 }
 
-Outcome PropertiesCheck::run(CheckContext &context) const
+void PropertiesCheck::examine(const QString &name, const OperationClass &,
+                              const QMetaProperty &property, Outcome &outcome) const
 {
-    Outcome outcome;
-    const QList<Operation *> prototypes = context.newPrototypes();
-    for (const Operation *prototype : prototypes) {
-        const QString name = context.nameOf(*prototype);
-        const OperationClass declared(*prototype);
-        for (const QMetaProperty &property : declared.properties()) {
-            const QStringList faults = faultsOf(property);
-            for (const QString &fault : faults)
-                outcome.fail(
-                    QStringLiteral("%1: property %2 %3").arg(name, nameOf(property), fault));
-        }
-    }
-    return outcome;
+    const QStringList faults = faultsOf(property);
+    for (const QString &fault : faults)
+        outcome.fail(QStringLiteral("%1: property %2 %3").arg(name, nameOf(property), fault));
 }

@@ -1,12 +1,14 @@
 #pragma once
 
-#include "refhost/validator/Check.h"
+#include "refhost/validator/PropertyCheck.h"
 
 /// schema.properties: properties are declared as the host expects: type, accessors, flags.
-class PropertiesCheck : public Check
+class PropertiesCheck : public PropertyCheck
 {
 public:
     PropertiesCheck();
 
-    Outcome run(CheckContext &context) const override;
+protected:
+    void examine(const QString &name, const OperationClass &declared, const QMetaProperty &property,
+                 Outcome &outcome) const override;
 };

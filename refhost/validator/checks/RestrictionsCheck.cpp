@@ -1,10 +1,7 @@
 #include "refhost/validator/checks/RestrictionsCheck.h"
 
 #include "refhost/engine/VarTypeName.h"
-#include "refhost/validator/CheckContext.h"
 #include "refhost/validator/OperationClass.h"
-
-#include "Operation.h"
 
 namespace {
 
@@ -44,9 +41,19 @@ QString valueFault(const QString &key, const QString &value, const QString &edit
     return {};
 }
 
-void checkProperty(const QString &name, const OperationClass &declared,
-                   const QMetaProperty &property, Outcome &outcome)
+} // namespace
+
+RestrictionsCheck::RestrictionsCheck()
+    : PropertyCheck({QStringLiteral("schema.restrictions"), 3,
+                     QStringLiteral("Each editor has the restriction it needs, and no other.")})
 {
+}
+
+void RestrictionsCheck::examine(const QString &name, const OperationClass &declared,
+                                const QMetaProperty &property, Outcome &outcome) const
+{
+    if (declared.hasUnknownEditor(property))
+        return;
     const QString editor = declared.editor(property);
     const QStringList needed = keysFor(editor);
     int present = 0;
@@ -71,27 +78,4 @@ void checkProperty(const QString &name, const OperationClass &declared,
                               present == 0 ? QStringLiteral("none") : QStringLiteral("both"),
                               needed.join(QLatin1String(", "))));
     }
-}
-
-} // namespace
-
-RestrictionsCheck::RestrictionsCheck()
-    : Check({QStringLiteral("schema.restrictions"), 3,
-             QStringLiteral("Each editor has the restriction it needs, and no other.")})
-{
-}
-
-Outcome RestrictionsCheck::run(CheckContext &context) const
-{
-    Outcome outcome;
-    const QList<Operation *> prototypes = context.newPrototypes();
-    for (const Operation *prototype : prototypes) {
-        const QString name = context.nameOf(*prototype);
-        const OperationClass declared(*prototype);
-        for (const QMetaProperty &property : declared.properties()) {
-            if (!declared.hasUnknownEditor(property))
-                checkProperty(name, declared, property, outcome);
-        }
-    }
-    return outcome;
 }

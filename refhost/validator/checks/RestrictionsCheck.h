@@ -1,12 +1,14 @@
 #pragma once
 
-#include "refhost/validator/Check.h"
+#include "refhost/validator/PropertyCheck.h"
 
 /// schema.restrictions: each editor has the restriction it needs, and no other.
-class RestrictionsCheck : public Check
+class RestrictionsCheck : public PropertyCheck
 {
 public:
     RestrictionsCheck();
 
-    Outcome run(CheckContext &context) const override;
+protected:
+    void examine(const QString &name, const OperationClass &declared, const QMetaProperty &property,
+                 Outcome &outcome) const override;
 };
