@@ -59,8 +59,7 @@ WholeTextEdit::WholeTextEdit(QWidget *parent)
 void WholeTextEdit::setText(const QString &text)
 {
     m_text = text;
-    m_edits.clear();
-    m_done = 0;
+    m_history.clear();
     m_cursor = 0;
     m_anchor = 0;
     divide();
@@ -122,18 +121,14 @@ void WholeTextEdit::insert(const QString &text)
 
 void WholeTextEdit::undo()
 {
-    if (m_done == 0)
-        return;
-    const Edit edit = m_edits.at(--m_done);
-    apply(edit.position, edit.inserted.size(), edit.removed);
+    if (const auto edit = m_history.undo())
+        apply(*edit);
 }
 
 void WholeTextEdit::redo()
 {
-    if (m_done == m_edits.size())
-        return;
-    const Edit edit = m_edits.at(m_done++);
-    apply(edit.position, edit.removed.size(), edit.inserted);
+    if (const auto edit = m_history.redo())
+        apply(*edit);
 }
 
 void WholeTextEdit::cut()
@@ -163,35 +158,19 @@ void WholeTextEdit::selectAll()
 
 void WholeTextEdit::replace(int position, int length, const QString &inserted)
 {
-    const Edit edit{position, m_text.mid(position, length), inserted};
-    m_edits.resize(m_done);
-    if (mergesWithLast(edit)) {
-        m_edits.last().inserted += inserted;
-    } else {
-        m_edits.append(edit);
-        ++m_done;
-    }
-    apply(position, length, inserted);
+    const TextHistory::Edit edit{position, m_text.mid(position, length), inserted};
+    m_history.add(edit);
+    apply(edit);
 }
 
-/// Characters typed one behind the other are undone together, line by line.
-bool WholeTextEdit::mergesWithLast(const Edit &edit) const
+void WholeTextEdit::apply(const TextHistory::Edit &edit)
 {
-    if (m_edits.isEmpty() || !edit.removed.isEmpty() || edit.inserted.size() != 1)
-        return false;
-    const Edit &last = m_edits.constLast();
-    return last.removed.isEmpty() && last.position + last.inserted.size() == edit.position &&
-           !last.inserted.endsWith(QLatin1Char('\n'));
-}
-
-void WholeTextEdit::apply(int position, int length, const QString &inserted)
-{
-    m_text.replace(position, length, inserted);
+    m_text.replace(edit.position, edit.removed.size(), edit.inserted);
     // The row before may take up what is at the beginning of this one now.
-    m_rows.divide(m_text, m_widths, qMax(0, position - m_widths.mostUnits()));
+    m_rows.divide(m_text, m_widths, qMax(0, edit.position - m_widths.mostUnits()));
     updateScrollBar();
     Q_EMIT textChanged();
-    setCursor(position + inserted.size());
+    setCursor(edit.position + edit.inserted.size());
 }
 
 void WholeTextEdit::erase(int from, int to)
@@ -410,13 +389,9 @@ bool WholeTextEdit::handleErasure(QKeyEvent *event)
 int WholeTextEdit::vertical(int rows) const
 {
     const int row = m_rows.rowAt(m_text, m_cursor);
-    const int start = m_rows.start(m_text, row);
-    QTextLayout layout;
-    layOut(layout, start, m_rows.end(m_text, start));
-    const qreal x = layout.lineAt(0).isValid() ? layout.lineAt(0).cursorToX(m_cursor - start) : 0;
     const int target = qBound(0, row + rows, m_rows.count() - 1);
     const int y = (target - verticalScrollBar()->value()) * rowHeight() + rowHeight() / 2;
-    return positionAt({fontMetrics().averageCharWidth() + qRound(x), y});
+    return positionAt({cursorX(), y});
 }
 
 int WholeTextEdit::positionAt(const QPoint &point) const
@@ -495,15 +470,21 @@ QVariant WholeTextEdit::inputMethodQuery(Qt::InputMethodQuery query) const
     }
 }
 
+/// Where the cursor stands across, in pixels.
+int WholeTextEdit::cursorX() const
+{
+    const int start = m_rows.start(m_text, m_rows.rowAt(m_text, m_cursor));
+    QTextLayout layout;
+    layOut(layout, start, m_rows.end(m_text, start));
+    const QTextLine line = layout.lineAt(0);
+    const qreal x = line.isValid() ? line.cursorToX(m_cursor - start) : 0;
+    return fontMetrics().averageCharWidth() + qRound(x);
+}
+
 QRect WholeTextEdit::cursorRect() const
 {
     const int row = m_rows.rowAt(m_text, m_cursor);
-    const int start = m_rows.start(m_text, row);
-    QTextLayout layout;
-    layOut(layout, start, m_rows.end(m_text, start));
-    const qreal x = layout.lineAt(0).isValid() ? layout.lineAt(0).cursorToX(m_cursor - start) : 0;
-    return {fontMetrics().averageCharWidth() + qRound(x),
-            (row - verticalScrollBar()->value()) * rowHeight(), 1, rowHeight()};
+    return {cursorX(), (row - verticalScrollBar()->value()) * rowHeight(), 1, rowHeight()};
 }
 
 void WholeTextEdit::focusInEvent(QFocusEvent *event)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "refhost/workbench/variables/TextHistory.h"
 #include "refhost/workbench/variables/TextRows.h"
 
 #include <QAbstractScrollArea>
@@ -27,7 +28,7 @@ public:
     bool isReadOnly() const { return m_isReadOnly; }
     void setReadOnly(bool readOnly);
     /// Whether the text has been edited since `setText`.
-    bool isModified() const { return m_done != 0; }
+    bool isModified() const { return m_history.hasEdits(); }
 
     int cursor() const { return m_cursor; }
     /// The line the cursor is in, counted from 0, and its place within.
@@ -72,19 +73,10 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    /// What an edit took away and put in its place.
-    struct Edit
-    {
-        int position = 0;
-        QString removed;
-        QString inserted;
-    };
-
     int selectionStart() const { return qMin(m_cursor, m_anchor); }
     int selectionEnd() const { return qMax(m_cursor, m_anchor); }
     void replace(int position, int length, const QString &inserted);
-    void apply(int position, int length, const QString &inserted);
-    bool mergesWithLast(const Edit &edit) const;
+    void apply(const TextHistory::Edit &edit);
     void erase(int from, int to);
     bool handleShortcut(QKeyEvent *event);
     bool handleEditShortcut(QKeyEvent *event);
@@ -101,6 +93,7 @@ private:
     void layOut(QTextLayout &layout, int start, int end) const;
     QVector<QTextLayout::FormatRange> formats(const QString &shown, int start) const;
     QVector<QTextLayout::FormatRange> selectionIn(int start, int end) const;
+    int cursorX() const;
     QRect cursorRect() const;
 
     QString m_text;
@@ -111,6 +104,5 @@ private:
     int m_anchor = 0;
     bool m_isReadOnly = false;
     QString m_preedit; ///< what an input method shows at the cursor
-    QVector<Edit> m_edits;
-    int m_done = 0; ///< of the edits, those that are not undone
+    TextHistory m_history;
 };
