@@ -4,7 +4,6 @@
 #include "benchmarks/Target.h"
 
 #include <QString>
-#include <QVector>
 
 // The figures as lines of a table for people.
 

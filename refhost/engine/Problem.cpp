@@ -2,8 +2,6 @@
 
 #include "refhost/engine/EngineText.h"
 
-#include <QStringList>
-
 QString Problem::toString() const
 {
     QString text = file;

@@ -4,7 +4,6 @@
 
 #include <QByteArray>
 #include <QJsonObject>
-#include <QString>
 
 class Operation;
 class OperationCatalog;

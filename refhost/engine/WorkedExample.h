@@ -2,11 +2,8 @@
 
 #include "refhost/engine/Result.h"
 
-#include "VarType.h"
-
 #include <QJsonObject>
 #include <QJsonValue>
-#include <QList>
 #include <QString>
 #include <QStringList>
 

@@ -2,7 +2,6 @@
 #include "tests/support/QuietTest.h"
 #include "tests/support/Records.h"
 
-#include "IOperationPlugin.h"
 #include "VariableScope.h"
 
 #include <QtTest>

@@ -2,7 +2,6 @@
 #include "tests/support/QuietTest.h"
 #include "tests/support/TranslationFile.h"
 
-#include <QFileInfo>
 #include <QtTest>
 
 #include <memory>

@@ -2,8 +2,6 @@
 
 #include "Operation.h"
 
-#include <QVariant>
-
 /// The least a host has to cope with: an operation that does nothing, or holds others.
 class PlainOperation : public Operation
 {

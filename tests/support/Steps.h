@@ -4,7 +4,6 @@
 
 #include "Operation.h"
 
-#include <QMetaObject>
 #include <QVariantMap>
 
 #include <memory>

@@ -1,5 +1,4 @@
 #include "refhost/workbench/editor/ExactTextEdit.h"
-#include "refhost/workbench/values/InvisibleCharacter.h"
 #include "tests/support/QuietTest.h"
 
 #include <QClipboard>

@@ -2,7 +2,6 @@
 #include "tests/support/QuietTest.h"
 #include "tests/workbench/support/EditorBench.h"
 
-#include <QComboBox>
 #include <QLineEdit>
 
 /// The editors of operands tell what a step will make of them, and offer the variables that fit.

@@ -17,7 +17,6 @@
 #include <QPushButton>
 #include <QRandomGenerator>
 #include <QScrollBar>
-#include <QSignalSpy>
 #include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>

@@ -2,8 +2,6 @@
 
 #include "tests/zoo/SoundOperation.h"
 
-#include <QDir>
-
 SoundPlugin::SoundPlugin()
 {
     Q_INIT_RESOURCE(sound);

@@ -2,8 +2,6 @@
 
 #include "refhost/engine/check/Finding.h"
 
-#include <QList>
-
 #include <optional>
 
 class TaskFacts;

@@ -1,7 +1,6 @@
 #include "refhost/validator/checks/RepetitionCheck.h"
 
 #include "refhost/validator/OperationClass.h"
-#include "refhost/validator/trials/OddSettings.h"
 #include "refhost/validator/trials/SampleScope.h"
 #include "refhost/validator/trials/ShownValue.h"
 #include "refhost/validator/trials/Specimen.h"

@@ -2,7 +2,6 @@
 
 #include "refhost/validator/trials/ShownValue.h"
 #include "refhost/validator/trials/Specimen.h"
-#include "refhost/validator/trials/StepTrial.h"
 #include "refhost/validator/trials/Thrown.h"
 
 #include "Operation.h"

@@ -11,7 +11,6 @@
 #include "refhost/workbench/values/TypeWord.h"
 #include "refhost/workbench/values/VisibleText.h"
 
-#include <QAbstractItemView>
 #include <QComboBox>
 #include <QLineEdit>
 

@@ -1,9 +1,6 @@
 #pragma once
 
-#include "refhost/engine/OperandTrace.h"
-
 #include <QString>
-#include <QVector>
 
 #include <memory>
 

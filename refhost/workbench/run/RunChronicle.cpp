@@ -1,6 +1,5 @@
 #include "refhost/workbench/run/RunChronicle.h"
 
-#include "refhost/workbench/values/DurationText.h"
 #include "refhost/workbench/values/ValuePreview.h"
 #include "refhost/workbench/values/VisibleText.h"
 

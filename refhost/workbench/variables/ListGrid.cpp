@@ -2,6 +2,7 @@
 
 #include "refhost/workbench/look/SymbolIcon.h"
 #include "refhost/workbench/values/NumberText.h"
+#include "refhost/workbench/variables/CellKind.h"
 #include "refhost/workbench/variables/CellTable.h"
 #include "refhost/workbench/variables/GridModel.h"
 #include "refhost/workbench/variables/SpreadsheetText.h"
@@ -13,7 +14,6 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
-#include <QPointer>
 #include <QToolBar>
 #include <QVBoxLayout>
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "refhost/workbench/variables/CellKind.h"
 #include "refhost/workbench/variables/ValueDialog.h"
 
 #include "VarType.h"

@@ -5,7 +5,6 @@
 #include "refhost/workbench/window/PanelFocus.h"
 
 #include <QActionGroup>
-#include <QApplication>
 
 ViewMenu::ViewMenu(QWidget *parent)
     : QMenu(tr("视图(&V)"), parent)
