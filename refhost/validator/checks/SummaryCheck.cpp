@@ -1,5 +1,6 @@
 #include "refhost/validator/checks/SummaryCheck.h"
 
+#include "refhost/validator/trials/SampleSettings.h"
 #include "refhost/validator/trials/ShownValue.h"
 #include "refhost/validator/trials/Specimen.h"
 #include "refhost/validator/trials/Thrown.h"
