@@ -2,6 +2,7 @@
 
 #include "refhost/engine/FileBytes.h"
 #include "refhost/workbench/files/DialogQuestions.h"
+#include "refhost/workbench/files/FileDrop.h"
 #include "refhost/workbench/files/Recovery.h"
 #include "refhost/workbench/files/RecoveryFile.h"
 #include "refhost/workbench/library/FileWatch.h"
@@ -13,13 +14,9 @@
 #include "Operation.h"
 
 #include <QDir>
-#include <QDropEvent>
 #include <QFileInfo>
 #include <QMenu>
-#include <QMimeData>
 #include <QScopedValueRollback>
-#include <QTimer>
-#include <QUrl>
 #include <QWidget>
 
 FileActions::FileActions(Workbench &bench, QWidget *window)
@@ -31,8 +28,7 @@ FileActions::FileActions(Workbench &bench, QWidget *window)
     , m_watch(new FileWatch(this))
 {
     createActions();
-    m_window->setAcceptDrops(true);
-    m_window->installEventFilter(this);
+    connect(new FileDrop(window), &FileDrop::dropped, this, &FileActions::open);
     connect(&bench.document, &TaskDocument::modifiedChanged, this, &FileActions::updateTitle);
     connect(m_watch, &FileWatch::stirred, this, &FileActions::noticeChange);
     connect(m_recovery, &Recovery::failed, this, [this](const Problem &problem) {
@@ -310,36 +306,6 @@ bool FileActions::restore(const RecoveryOffer &offer, Task task, TaskForm form,
     m_bench.document.replace(TaskState::fromTask(std::move(task)), true);
     updateTitle();
     return m_recovery->flush();
-}
-
-bool FileActions::canOpenDropped(const QMimeData &data) const
-{
-    const QList<QUrl> urls = data.urls();
-    return urls.size() == 1 && QFileInfo(urls.constFirst().toLocalFile()).isFile();
-}
-
-bool FileActions::openDropped(const QMimeData &data)
-{
-    return canOpenDropped(data) && open(data.urls().constFirst().toLocalFile());
-}
-
-bool FileActions::eventFilter(QObject *watched, QEvent *event)
-{
-    const bool isDrop = event->type() == QEvent::DragEnter || event->type() == QEvent::DragMove ||
-                        event->type() == QEvent::Drop;
-    if (watched != m_window || !isDrop)
-        return QObject::eventFilter(watched, event);
-    auto *const drop = static_cast<QDropEvent *>(event);
-    if (!canOpenDropped(*drop->mimeData()))
-        return false;
-    drop->setDropAction(Qt::CopyAction);
-    drop->accept();
-    if (event->type() == QEvent::Drop) {
-        // The program the file comes from is not to wait for the user's answers.
-        const QString path = drop->mimeData()->urls().constFirst().toLocalFile();
-        QTimer::singleShot(0, this, [this, path] { open(path); });
-    }
-    return true;
 }
 
 void FileActions::setFile(const QString &path, TaskForm form, const QByteArray &stamp)

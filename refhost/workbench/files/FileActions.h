@@ -14,7 +14,6 @@
 
 class FileWatch;
 class QMenu;
-class QMimeData;
 class QWidget;
 class Recovery;
 struct Workbench;
@@ -59,16 +58,10 @@ public:
     /// Offers the tasks that were lost with their windows.
     void offerLost();
 
-    /// Whether that is one file that can be opened.
-    bool canOpenDropped(const QMimeData &data) const;
-    bool openDropped(const QMimeData &data);
-
     /// The file of the task, empty when it is in none.
     const QString &path() const { return m_path; }
 
     Recovery &recovery() { return *m_recovery; }
-
-    bool eventFilter(QObject *watched, QEvent *event) override;
 
 Q_SIGNALS:
     /// What has been done, or could not be done on the side, for the status bar.
