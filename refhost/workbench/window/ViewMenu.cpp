@@ -49,7 +49,7 @@ void ViewMenu::addAppearances()
 
 void ViewMenu::addLanguages()
 {
-    // In their own words, so that everybody finds back.
+    // In their own words, so that everybody finds back; the note is for readers of either.
     QMenu *const menu = addMenu(QStringLiteral("语言 / &Language"));
     auto *const group = new QActionGroup(menu);
     const auto add = [&](const QString &name, const QString &text) {
@@ -64,4 +64,9 @@ void ViewMenu::addLanguages()
     };
     add(QStringLiteral("zh"), QStringLiteral("中文(&Z)"));
     add(QStringLiteral("en"), QStringLiteral("&English"));
+    menu->addSeparator();
+    QAction *const note =
+        menu->addAction(QStringLiteral("下次启动时生效 / Takes effect at the next start"));
+    note->setObjectName(QStringLiteral("view.languageNote"));
+    note->setEnabled(false);
 }
