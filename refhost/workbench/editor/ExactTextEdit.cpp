@@ -12,6 +12,7 @@
 #include <QScrollBar>
 #include <QStyleOptionFrame>
 #include <QStylePainter>
+#include <QTextLayout>
 #include <QtMath>
 
 namespace {
@@ -44,6 +45,19 @@ bool isEnter(const QKeyEvent &event)
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
+/// The height of a line as a document lays it out, which is not always the spacing of the font: a
+/// field with one line would become another height when its document is laid out, after the layouts
+/// around it.
+double lineHeight(const QFont &font, QPaintDevice *device)
+{
+    QTextLayout layout(QStringLiteral("x"), font, device);
+    layout.beginLayout();
+    QTextLine line = layout.createLine();
+    line.setLeadingIncluded(true);
+    layout.endLayout();
+    return line.height();
+}
+
 bool hasSpecial(const QString &text)
 {
     for (int i = 0; i < text.size(); i += text.at(i).isHighSurrogate() ? 2 : 1) {
@@ -65,7 +79,8 @@ ExactTextEdit::ExactTextEdit(QWidget *parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    document()->setDocumentMargin(fontMetrics().averageCharWidth() / 2.0);
+    // A document rounds the places of its lines, so the margin is whole.
+    document()->setDocumentMargin(qCeil(fontMetrics().averageCharWidth() / 2.0));
     QAbstractTextDocumentLayout *const layout = document()->documentLayout();
     layout->registerHandler(SpecialCharacterObject::Type, new SpecialCharacterObject(this));
     connect(layout, &QAbstractTextDocumentLayout::documentSizeChanged, this,
@@ -232,20 +247,19 @@ void ExactTextEdit::insertFromMimeData(const QMimeData *source)
 }
 
 /// Keeps the height at that of the text, up to the most lines; only beyond them there is a scroll
-/// bar.
+/// bar. Before the first layout of the document it is that of one line.
 void ExactTextEdit::fitHeight()
 {
-    const double lines = document()->size().height() - 2 * document()->documentMargin();
-    const int whole = qCeil(lines) + heightOf(0);
+    const int whole = qCeil(document()->size().height()) + 2 * frameWidth();
     const int most = isFrameless() ? QWIDGETSIZE_MAX : heightOf(mostLines);
     setVerticalScrollBarPolicy(whole > most ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
     setFixedHeight(qBound(heightOf(1), whole, most));
     updateGeometry();
 }
 
-int ExactTextEdit::heightOf(double lines) const
+int ExactTextEdit::heightOf(int lines) const
 {
-    return qCeil(lines * fontMetrics().lineSpacing() + 2 * document()->documentMargin()) +
+    return qCeil(lines * lineHeight(font(), viewport()) + 2 * document()->documentMargin()) +
            2 * frameWidth();
 }
 

@@ -58,7 +58,7 @@ protected:
 
 private:
     void fitHeight();
-    int heightOf(double lines) const;
+    int heightOf(int lines) const;
     void paintFrame();
     bool isFrameless() const { return frameStyle() == NoFrame; }
 
