@@ -1,7 +1,7 @@
 #include "refhost/workbench/variables/TextViewer.h"
+#include "refhost/workbench/variables/SlicedSearch.h"
 #include "refhost/workbench/variables/TextFile.h"
 #include "refhost/workbench/variables/TextRows.h"
-#include "refhost/workbench/variables/SlicedSearch.h"
 #include "refhost/workbench/variables/WholeTextEdit.h"
 
 #include "tests/support/QuietTest.h"

@@ -58,8 +58,9 @@ QList<Case> textCases(const Specimen &specimen)
     QList<Case> cases{{QStringLiteral("all texts of 32 MiB"), forAll(operands, large)}};
     for (const QString &operand : operands) {
         cases.append({operand + QStringLiteral(" of 32 MiB"), {{operand, large}}});
-        cases.append({QStringLiteral("all texts but %1 of 32 MiB").arg(operand),
-                      forAll(operands, large) + QList<TrialSetting>{{operand, QStringLiteral("a")}}});
+        cases.append(
+            {QStringLiteral("all texts but %1 of 32 MiB").arg(operand),
+             forAll(operands, large) + QList<TrialSetting>{{operand, QStringLiteral("a")}}});
     }
     return cases;
 }

@@ -1,6 +1,7 @@
 #include "refhost/workbench/variables/SlicedSearch.h"
 
-SlicedSearch::SlicedSearch(const QString &text, const QString &sought, int from, Direction direction)
+SlicedSearch::SlicedSearch(const QString &text, const QString &sought, int from,
+                           Direction direction)
     : m_text(text)
     , m_sought(sought)
     , m_direction(direction)

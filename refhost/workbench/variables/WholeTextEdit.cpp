@@ -375,13 +375,14 @@ bool WholeTextEdit::handleMove(QKeyEvent *event)
 bool WholeTextEdit::handleErasure(QKeyEvent *event)
 {
     const bool byWord = event->modifiers() & Qt::ControlModifier;
-    if (event->key() == Qt::Key_Backspace)
+    if (event->key() == Qt::Key_Backspace) {
         erase(byWord ? previousWord(m_text, m_cursor) : previousPosition(m_text, m_cursor),
               m_cursor);
-    else if (event->key() == Qt::Key_Delete)
+    } else if (event->key() == Qt::Key_Delete) {
         erase(m_cursor, byWord ? nextWord(m_text, m_cursor) : nextPosition(m_text, m_cursor));
-    else
+    } else {
         return false;
+    }
     return true;
 }
 
