@@ -91,10 +91,12 @@ QStringList allTextsOf(const QWidget &window)
     return texts;
 }
 
-/// The languages to choose from call themselves in their own words.
+/// Who chooses a language may not understand the one before: the menu speaks both.
 bool isOfLanguageMenu(QString text)
 {
-    return QStringList{"语言 / Language", "中文", "中文(Z)"}.contains(text.remove('&'));
+    return QStringList{"语言 / Language", "下次启动时生效 / Takes effect at the next start", "中文",
+                       "中文(Z)"}
+        .contains(text.remove('&'));
 }
 
 int translatorCount()
