@@ -232,7 +232,5 @@ void LanguageTest::languagesAreCompleted()
     QCOMPARE(outcome.out + outcome.err, QString("en zh"));
 }
 
-Q_DECLARE_METATYPE(Environment)
-
 QTEST_GUILESS_MAIN(LanguageTest)
 #include "LanguageTest.moc"
