@@ -63,9 +63,8 @@ QString TextJoinOperation::description() const
 
 void TextJoinOperation::run() const
 {
-    // The separator first: it may be too large, and one warning is enough.
-    const QString separator = resolveTextOperand(m_separator, scope);
-    // Without a list the step goes on: the result variable is set to the empty text.
+    // A variable that is no list does not end the step: the result is the empty text then.
     const QVariantList elements = readList(*scope, m_listVar);
+    const QString separator = resolveTextOperand(m_separator, scope);
     storeStringResult(scope, m_resultVar, listToText(elements, separator));
 }

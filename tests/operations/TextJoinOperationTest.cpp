@@ -2,8 +2,27 @@
 #include "tests/support/OperationSuite.h"
 
 #include "operations/TextJoinOperation.h"
+#include "operations/common/Warning.h"
 
 #include <QtTest>
+
+namespace {
+
+/// Has a property that logs a line when it is read.
+class Separator : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString text READ text)
+
+public:
+    QString text() const
+    {
+        warn("separator");
+        return "-";
+    }
+};
+
+} // namespace
 
 class TextJoinOperationTest : public OperationSuite
 {
@@ -18,6 +37,7 @@ protected:
 private Q_SLOTS:
     void elements_data();
     void elements();
+    void listIsReadBeforeTheSeparator();
 };
 
 OperationSuite::Facts TextJoinOperationTest::facts() const
@@ -131,6 +151,23 @@ void TextJoinOperationTest::elements()
     operation.doOperation();
     QTEST(scope.get("r").toString(), "expected");
     QCOMPARE(scope.get("items"), value);
+}
+
+void TextJoinOperationTest::listIsReadBeforeTheSeparator()
+{
+    Separator separator;
+    VariableScope scope;
+    scope.declare("o", VarType::String, QVariant::fromValue<QObject *>(&separator));
+    scope.declare("r", VarType::String, "old");
+    TextJoinOperation operation;
+    operation.setListVar("none");
+    operation.setSeparator("$o.text");
+    operation.setResultVar("r");
+    operation.setVariableScope(&scope);
+    operation.doOperation();
+    QCOMPARE(takeWarnings(),
+             QStringList({"[TextOp] 变量 \"none\" 不是列表类型，已跳过", "separator"}));
+    QCOMPARE(scope.get("r"), QVariant(""));
 }
 
 QTEST_GUILESS_MAIN(TextJoinOperationTest)
