@@ -16,7 +16,10 @@
 #include "operations/TextToNumberOperation.h"
 #include "operations/TextTrimOperation.h"
 
+#include <algorithm>
+#include <array>
 #include <iterator>
+#include <memory>
 
 namespace {
 
@@ -34,6 +37,20 @@ const Contribution contributions[] = {
     contribution<TextReplaceOperation>(50),
 };
 
+constexpr std::size_t contributionCount = std::size(contributions);
+
+/// Returns the contributions by ascending weight, which is the order of the catalogue.
+std::array<Contribution, contributionCount> catalogueOrder()
+{
+    std::array<Contribution, contributionCount> sorted{};
+    std::copy(std::begin(contributions), std::end(contributions), sorted.begin());
+    std::sort(sorted.begin(), sorted.end(),
+              [](const Contribution &left, const Contribution &right) {
+                  return left.weight < right.weight;
+              });
+    return sorted;
+}
+
 QStringList neededCapabilities()
 {
     return {QStringLiteral("hasListType")};
@@ -47,10 +64,16 @@ TextOperPlugin::~TextOperPlugin() = default;
 
 QList<Operation *> TextOperPlugin::createPrototypes()
 {
+    // All are constructed before the list is filled, so that none leaks if a constructor throws.
+    std::array<std::unique_ptr<Operation>, contributionCount> created;
+    std::transform(std::begin(contributions), std::end(contributions), created.begin(),
+                   [](const Contribution &contribution) {
+                       return std::unique_ptr<Operation>(contribution.create());
+                   });
     QList<Operation *> prototypes;
-    prototypes.reserve(static_cast<int>(std::size(contributions)));
-    for (const Contribution &contribution : contributions)
-        prototypes.append(contribution.create());
+    prototypes.reserve(static_cast<int>(contributionCount));
+    for (std::unique_ptr<Operation> &operation : created)
+        prototypes.append(operation.release());
     return prototypes;
 }
 
@@ -85,7 +108,7 @@ PluginManifest TextOperPlugin::manifest() const
     manifest.typeIdPrefix = QStringLiteral("text.");
     manifest.requiredCapabilities = neededCapabilities();
     manifest.rootOrder.insert(QStringLiteral("文本"), 500);
-    for (const Contribution &contribution : contributions)
+    for (const Contribution &contribution : catalogueOrder())
         manifest.typeOrder.insert(contribution.typeId(), contribution.weight);
     return manifest;
 }
