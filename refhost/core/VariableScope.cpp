@@ -1,5 +1,7 @@
 #include "VariableScope.h"
 
+#include <QVariantMap>
+
 #include <algorithm>
 
 namespace {
@@ -24,57 +26,102 @@ QVariant emptyValue(VarType type)
     return {};
 }
 
+// The names that `set` has written are kept in the hash itself, as the keys of a map under a name
+// that no variable has: so they are copied and moved with the variables, and asking for them does
+// not cost a walk over all variables. That name is the mark alone, which is no character; the hash
+// keeps a variable whose name begins with the mark under the mark and its name.
+constexpr QChar mark(0xFFFF);
+
+QString nameOfWrites()
+{
+    return QString(mark);
+}
+
+QString keyOf(const QString &name)
+{
+    return name.startsWith(mark) ? mark + name : name;
+}
+
+QString nameOf(const QString &key)
+{
+    return key.startsWith(mark) ? key.mid(1) : key;
+}
+
+/// Returns the place of the variable called `name`, or the end of the hash.
+template <typename Variables>
+auto find(Variables &variables, const QString &name)
+{
+    // Almost no name needs a key of its own, and a copy of the name would cost time at each access.
+    return Q_UNLIKELY(name.startsWith(mark)) ? variables.find(keyOf(name)) : variables.find(name);
+}
+
+/// Returns the names that were written, as the keys of a map, to be changed in place.
+template <typename Variables>
+QVariantMap &writes(Variables &variables)
+{
+    QVariant &names = variables[nameOfWrites()].value;
+    if (!names.isValid())
+        names = QVariantMap();
+    return *static_cast<QVariantMap *>(names.data());
+}
+
 } // namespace
 
 QVariant VariableScope::get(const QString &name) const
 {
-    const auto variable = m_variables.constFind(name);
+    const auto variable = find(m_variables, name);
     return variable == m_variables.cend() ? QVariant() : variable->value;
 }
 
 void VariableScope::set(const QString &name, const QVariant &value)
 {
-    const auto variable = m_variables.find(name);
+    const auto variable = find(m_variables, name);
     if (variable == m_variables.end())
         return;
     variable->value = value;
+    if (variable->written)
+        return;
     variable->written = true;
+    writes(m_variables).insert(name, QVariant());
 }
 
 VarType VariableScope::typeOf(const QString &name) const
 {
-    const auto variable = m_variables.constFind(name);
+    const auto variable = find(m_variables, name);
     return variable == m_variables.cend() ? VarType::None : variable->type;
 }
 
 void VariableScope::declare(const QString &name, VarType type, const QVariant &value)
 {
+    const QString key = keyOf(name);
+    if (m_variables.value(key).written)
+        writes(m_variables).remove(name);
     if (type == VarType::None)
-        m_variables.remove(name);
+        m_variables.remove(key);
     else
-        m_variables.insert(name, {type, value.isValid() ? value : emptyValue(type), false});
+        m_variables.insert(key, {type, value.isValid() ? value : emptyValue(type), false});
 }
 
 QStringList VariableScope::names() const
 {
-    QStringList names = m_variables.keys();
+    QStringList names;
+    names.reserve(m_variables.size());
+    for (auto variable = m_variables.cbegin(); variable != m_variables.cend(); ++variable) {
+        if (variable->type != VarType::None)
+            names.append(nameOf(variable.key()));
+    }
     std::sort(names.begin(), names.end());
     return names;
 }
 
 QStringList VariableScope::writtenNames() const
 {
-    QStringList names;
-    for (auto variable = m_variables.cbegin(); variable != m_variables.cend(); ++variable) {
-        if (variable->written)
-            names.append(variable.key());
-    }
-    std::sort(names.begin(), names.end());
-    return names;
+    return m_variables.value(nameOfWrites()).value.toMap().keys();
 }
 
 void VariableScope::forgetWrites()
 {
-    for (Variable &variable : m_variables)
-        variable.written = false;
+    const QVariantMap written = m_variables.take(nameOfWrites()).value.toMap();
+    for (auto name = written.keyBegin(); name != written.keyEnd(); ++name)
+        find(m_variables, *name)->written = false;
 }

@@ -20,6 +20,10 @@ private Q_SLOTS:
     void copiesAreIndependent();
     void movedFromIsEmptyAndUsable();
     void writtenNames();
+    void writtenNamesOfCopies();
+    void redeclaringForgetsTheWrite();
+    void namesWithTheMark();
+    void manyRounds();
 };
 
 void VariableScopeTest::undeclared()
@@ -161,6 +165,89 @@ void VariableScopeTest::writtenNames()
     scope.forgetWrites();
     QCOMPARE(scope.writtenNames(), QStringList());
     QCOMPARE(scope.get("a"), QVariant(2));
+}
+
+void VariableScopeTest::writtenNamesOfCopies()
+{
+    VariableScope original;
+    original.declare("a", VarType::Int);
+    original.declare("b", VarType::Int);
+    original.set("a", 1);
+    VariableScope copy = original;
+    copy.set("b", 1);
+    QCOMPARE(original.writtenNames(), QStringList({"a"}));
+    QCOMPARE(copy.writtenNames(), QStringList({"a", "b"}));
+    original.forgetWrites();
+    QCOMPARE(original.writtenNames(), QStringList());
+    QCOMPARE(copy.writtenNames(), QStringList({"a", "b"}));
+    const VariableScope moved = std::move(copy);
+    QCOMPARE(moved.writtenNames(), QStringList({"a", "b"}));
+    original = moved;
+    original.forgetWrites();
+    original.set("a", 2);
+    QCOMPARE(original.writtenNames(), QStringList({"a"}));
+}
+
+void VariableScopeTest::redeclaringForgetsTheWrite()
+{
+    VariableScope scope;
+    scope.declare("v", VarType::Int);
+    scope.set("v", 1);
+    scope.declare("v", VarType::None);
+    QCOMPARE(scope.writtenNames(), QStringList());
+    scope.forgetWrites();
+    scope.declare("v", VarType::Int);
+    QCOMPARE(scope.writtenNames(), QStringList());
+    scope.set("v", 1);
+    scope.declare("v", VarType::String);
+    QCOMPARE(scope.writtenNames(), QStringList());
+    scope.set("v", "x");
+    QCOMPARE(scope.writtenNames(), QStringList({"v"}));
+}
+
+void VariableScopeTest::namesWithTheMark()
+{
+    // The scope keeps notes of its own under a name that begins with this code unit.
+    const QString mark(QChar(0xFFFF));
+    VariableScope scope;
+    QVERIFY(!scope.get(mark).isValid());
+    scope.set(mark, 1);
+    scope.declare("a", VarType::Int, 1);
+    scope.set("a", 2);
+    QCOMPARE(scope.names(), QStringList({"a"}));
+    QCOMPARE(scope.typeOf(mark), VarType::None);
+    QVERIFY(!scope.get(mark).isValid());
+    scope.declare(mark, VarType::String, "one");
+    scope.declare(mark + mark, VarType::String, "two");
+    scope.declare(mark + "a", VarType::String, "three");
+    scope.set(mark, "four");
+    QCOMPARE(scope.get(mark), QVariant("four"));
+    QCOMPARE(scope.get(mark + mark), QVariant("two"));
+    QCOMPARE(scope.get(mark + "a"), QVariant("three"));
+    QCOMPARE(scope.names(), QStringList({"a", mark, mark + "a", mark + mark}));
+    QCOMPARE(scope.writtenNames(), QStringList({"a", mark}));
+    scope.forgetWrites();
+    QCOMPARE(scope.writtenNames(), QStringList());
+    scope.declare(mark, VarType::None);
+    QCOMPARE(scope.names(), QStringList({"a", mark + "a", mark + mark}));
+}
+
+void VariableScopeTest::manyRounds()
+{
+    // A round costs what was written in it. Were it a walk over all variables, this would take
+    // minutes; the limit is far above what it takes.
+    constexpr int count = 50'000;
+    VariableScope scope;
+    for (int i = 0; i < count; ++i)
+        scope.declare(QString::number(i), VarType::Int);
+    QElapsedTimer clock;
+    clock.start();
+    for (int i = 0; i < count; ++i) {
+        scope.forgetWrites();
+        scope.set(QString::number(i), i);
+        QCOMPARE(scope.writtenNames(), QStringList(QString::number(i)));
+    }
+    QVERIFY2(clock.elapsed() < 20'000, "a round costs more than what was written in it");
 }
 
 QTEST_GUILESS_MAIN(VariableScopeTest)
