@@ -4,6 +4,7 @@
 #include "refhost/engine/TaskReader.h"
 #include "refhost/runner/Console.h"
 #include "refhost/runner/ExitStatus.h"
+#include "refhost/runner/FileRoles.h"
 
 namespace {
 
@@ -18,6 +19,15 @@ int complain(const Problem &problem, const Console &console)
 QStringList ConversionCommand::arguments() const
 {
     return {QStringLiteral("TASK"), QStringLiteral("OUT")};
+}
+
+QList<FileRole> ConversionCommand::files(const QCommandLineParser &options,
+                                         const QStringList &arguments) const
+{
+    Q_UNUSED(options)
+    const QStringList roles = this->arguments();
+    return {readRole(roles.at(0), arguments.at(0)),
+            writtenRole(roles.at(1), arguments.at(1), roles.at(0))};
 }
 
 int ConversionCommand::runWith(const OperationCatalog &catalog, const QCommandLineParser &options,

@@ -15,6 +15,8 @@ public:
     QStringList arguments() const final;
 
 protected:
+    QList<FileRole> files(const QCommandLineParser &options,
+                          const QStringList &arguments) const final;
     int runWith(const OperationCatalog &catalog, const QCommandLineParser &options,
                 const QStringList &arguments, Console &console) const final;
 

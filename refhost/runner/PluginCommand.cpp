@@ -4,27 +4,35 @@
 #include "refhost/engine/OperationCatalog.h"
 #include "refhost/runner/Console.h"
 #include "refhost/runner/ExitStatus.h"
+#include "refhost/runner/FileRoles.h"
 #include "refhost/runner/LanguageChoice.h"
 #include "refhost/runner/PluginChoice.h"
 
 int PluginCommand::run(const QCommandLineParser &options, const QStringList &arguments,
                        Console &console) const
 {
-    const QStringList files = chosenPlugins(options);
-    if (files.isEmpty()) {
+    const QStringList plugins = chosenPlugins(options);
+    if (plugins.isEmpty()) {
         console.complain(
             QStringLiteral("no plug-in found in %1; expected one there or --plugin FILE")
                 .arg(ownPluginFolders().join(QLatin1String(" or "))));
         return PluginNotLoaded;
     }
-    const Result<QStringList> languages =
-        isForPrograms(options) ? languagesNamed(options, files) : chosenLanguages(options, files);
+    const QList<FileRole> named = files(options, arguments);
+    if (const auto problem =
+            named.isEmpty() ? std::nullopt : findSharedFile(named + pluginRoles(plugins))) {
+        console.complain(problem->toString());
+        return BadInput;
+    }
+    const Result<QStringList> languages = isForPrograms(options)
+                                              ? languagesNamed(options, plugins)
+                                              : chosenLanguages(options, plugins);
     if (!languages) {
         console.complain(languages.problem().toString());
         return BadInput;
     }
-    const auto translations = translate(files, languages.value(), console);
-    const OperationCatalog catalog(files);
+    const auto translations = translate(plugins, languages.value(), console);
+    const OperationCatalog catalog(plugins);
     for (const Problem &failure : catalog.failures())
         console.complain(failure.toString());
     if (!catalog.failures().isEmpty())
@@ -36,6 +44,14 @@ bool PluginCommand::isForPrograms(const QCommandLineParser &options) const
 {
     Q_UNUSED(options)
     return false;
+}
+
+QList<FileRole> PluginCommand::files(const QCommandLineParser &options,
+                                     const QStringList &arguments) const
+{
+    Q_UNUSED(options)
+    Q_UNUSED(arguments)
+    return {};
 }
 
 const CatalogEntry *PluginCommand::findOrComplain(const OperationCatalog &catalog,

@@ -2,8 +2,11 @@
 
 #include "refhost/runner/Command.h"
 
+#include <QList>
+
 class OperationCatalog;
 struct CatalogEntry;
+struct FileRole;
 
 /// A command that works on the operations of the plug-ins: those named with "--plugin", else those
 /// found beside the program.
@@ -19,6 +22,12 @@ protected:
     /// Whether the results have texts of plug-ins for programs to read, or for the record: these
     /// are then the same in every locale.
     virtual bool isForPrograms(const QCommandLineParser &options) const;
+
+    /// Returns the files that the command reads and writes, without the plug-ins; nothing for a
+    /// command that only prints. A written file that is the same as another is refused before
+    /// anything is opened.
+    virtual QList<FileRole> files(const QCommandLineParser &options,
+                                  const QStringList &arguments) const;
 
     /// Does the work. `arguments` are as many as `arguments()` allows. Returns the exit status.
     virtual int runWith(const OperationCatalog &catalog, const QCommandLineParser &options,

@@ -5,6 +5,7 @@
 #include "refhost/engine/TaskRunner.h"
 #include "refhost/runner/Console.h"
 #include "refhost/runner/ExitStatus.h"
+#include "refhost/runner/FileRoles.h"
 #include "refhost/runner/OneLine.h"
 #include "refhost/runner/Options.h"
 #include "refhost/runner/RunOptions.h"
@@ -103,6 +104,13 @@ QStringList RunCommand::arguments() const
 void RunCommand::addOptions(QCommandLineParser &parser) const
 {
     parser.addOptions(RunOptions::all());
+}
+
+QList<FileRole> RunCommand::files(const QCommandLineParser &options,
+                                  const QStringList &arguments) const
+{
+    return QList<FileRole>{readRole(this->arguments().first(), arguments.first())} +
+           RunOptions::files(options);
 }
 
 int RunCommand::runWith(const OperationCatalog &catalog, const QCommandLineParser &options,

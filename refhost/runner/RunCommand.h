@@ -13,6 +13,8 @@ public:
     void addOptions(QCommandLineParser &parser) const override;
 
 protected:
+    QList<FileRole> files(const QCommandLineParser &options,
+                          const QStringList &arguments) const override;
     int runWith(const OperationCatalog &catalog, const QCommandLineParser &options,
                 const QStringList &arguments, Console &console) const override;
 };

@@ -3,7 +3,9 @@
 #include "refhost/engine/JsonValue.h"
 #include "refhost/engine/Task.h"
 #include "refhost/engine/TaskProblem.h"
+#include "refhost/runner/FileRoles.h"
 #include "refhost/runner/Options.h"
+#include "refhost/runner/RunnerText.h"
 
 #include <QCommandLineParser>
 
@@ -36,6 +38,12 @@ std::optional<Problem> applySetting(Task &task, const QString &setting)
     return std::nullopt;
 }
 
+/// Returns the option as the user writes it.
+QString optionRole(const QCommandLineOption &option)
+{
+    return QStringLiteral("--") + option.names().first();
+}
+
 /// An option that only makes sense with rows, or never does, if one was given.
 std::optional<Problem> findMisplacedOption(const QCommandLineParser &options)
 {
@@ -48,7 +56,7 @@ std::optional<Problem> findMisplacedOption(const QCommandLineParser &options)
         if (options.isSet(option)) {
             return Problem{Problem::Reason::UnfitValue,
                            {},
-                           QStringLiteral("--") + option.names().first(),
+                           optionRole(option),
                            rows ? QStringLiteral("cannot go with rows; leave out \"--each\"")
                                 : QStringLiteral("is about rows; expected \"--each FILE\", too")};
         }
@@ -129,6 +137,22 @@ QList<QCommandLineOption> RunOptions::all()
 {
     return {set(),   print(), Options::json(), trace(),    strict(), each(),
             lines(), out(),   errors(),        failFast(), jobs()};
+}
+
+QString RunOptions::rowFile(const QCommandLineParser &options)
+{
+    return options.isSet(each()) ? options.value(each()) : QStringLiteral("-");
+}
+
+QList<FileRole> RunOptions::files(const QCommandLineParser &options)
+{
+    const QString printed = RunnerText::tr("standard output");
+    if (!asksForRows(options))
+        return {writtenRole(printed, QStringLiteral("-"))};
+    const QString rows = optionRole(each());
+    const QString lines = options.isSet(out()) ? optionRole(out()) : printed;
+    return {readRole(rows, rowFile(options)), writtenRole(lines, options.value(out()), rows),
+            writtenRole(optionRole(errors()), options.value(errors()))};
 }
 
 bool RunOptions::asksForRows(const QCommandLineParser &options)

@@ -10,6 +10,7 @@
 
 class QCommandLineParser;
 class Task;
+struct FileRole;
 
 /// The options of "oprun run".
 namespace RunOptions {
@@ -46,6 +47,12 @@ QCommandLineOption jobs();
 
 /// All of them, with "--json".
 QList<QCommandLineOption> all();
+
+/// Returns the file the rows come from, "-" for standard input; only with rows.
+QString rowFile(const QCommandLineParser &options);
+
+/// Returns the files that the options name: rows, lines and errors; without rows standard output.
+QList<FileRole> files(const QCommandLineParser &options);
 
 /// Whether the task is to run on rows.
 bool asksForRows(const QCommandLineParser &options);

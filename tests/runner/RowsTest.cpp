@@ -88,7 +88,6 @@ void RowsTest::initTestCase()
     QVERIFY(m_folder->write("warn.json", warningTask));
     QVERIFY(m_folder->write("rows", "{\"n\":1}\n{\"n\":2}\r\n \t\n{}\n"));
     QVERIFY(m_folder->write("bad", badRowFile));
-    QVERIFY(QFile::link("o", m_folder->filePath("link-to-o")));
     QVERIFY(m_folder->write("lines", "b\r\n\nc d\r"));
     QByteArray many;
     for (int i = 0; i < 40'000; ++i)
@@ -243,11 +242,7 @@ void RowsTest::refuses_data()
     row("empty errors", {"--each", "rows", "--errors", ""},
         "--errors: an empty file name; expected a file");
     row("errors where the lines go", {"--each", "rows", "--out", "o", "--errors", "./o"},
-        "--errors: \"./o\" is the file of the lines; expected another");
-    row("errors into the rows", {"--each", "rows", "--errors", "rows"},
-        "--errors: \"rows\" is the file of the rows; expected another");
-    row("errors by a link", {"--each", "rows", "--out", "o", "--errors", "link-to-o"},
-        "--errors: \"link-to-o\" is the file of the lines; expected another");
+        R"(--errors: "./o" is the same file as "o" (--out); expected another file)");
     row("no jobs", {"--each", "rows", "--jobs", "0"},
         "--jobs: \"0\"; expected a whole number from 1 to 256");
     row("too many jobs", {"--each", "rows", "--jobs", "257"},

@@ -14,8 +14,6 @@
 #include "refhost/runner/rows/RowSource.h"
 
 #include <QCommandLineParser>
-#include <QDir>
-#include <QFileInfo>
 
 #include <memory>
 #include <new>
@@ -28,42 +26,6 @@ constexpr int mostJobs = 256;
 Problem unfitOption(const QString &option, const QString &message)
 {
     return {Problem::Reason::UnfitValue, {}, option, message};
-}
-
-/// What the name stands for once it is written to: links lead on.
-QString targetOf(const QString &name)
-{
-    const QFileInfo file(name);
-    if (file.exists())
-        return file.canonicalFilePath();
-    return QDir::cleanPath(file.isSymLink() ? file.symLinkTarget() : file.absoluteFilePath());
-}
-
-/// Whether both names stand for the same file, and that is an ordinary one.
-bool areSameFile(const QString &left, const QString &right)
-{
-    const QFileInfo file(left);
-    const bool isOrdinary = !file.exists() || file.isFile();
-    return isOrdinary && targetOf(left) == targetOf(right);
-}
-
-/// The file of errors has to have a name, and one of its own.
-std::optional<Problem> checkErrorFile(const QCommandLineParser &options, const RowRun &run)
-{
-    const QString place = QStringLiteral("--errors");
-    if (!options.isSet(RunOptions::errors()))
-        return std::nullopt;
-    if (run.errors.isEmpty())
-        return unfitOption(place, emptyFileName(Problem::Reason::UnwritableFile).message);
-    for (const QString &other : {run.out, run.rows}) {
-        if (areSameFile(run.errors, other)) {
-            return unfitOption(
-                place, QStringLiteral("%1 is the file of the %2; expected another")
-                           .arg(jsonText(run.errors), other == run.rows ? QStringLiteral("rows")
-                                                                        : QStringLiteral("lines")));
-        }
-    }
-    return std::nullopt;
 }
 
 /// The first of the two that there is.
@@ -177,8 +139,7 @@ QString summary(const RowTally &tally, const RowEnd &end, const RowRun &run)
 Result<RowRun> rowRunFromOptions(const QCommandLineParser &options, const Task &task)
 {
     RowRun run;
-    run.rows =
-        options.isSet(RunOptions::each()) ? options.value(RunOptions::each()) : QStringLiteral("-");
+    run.rows = RunOptions::rowFile(options);
     run.out = options.value(RunOptions::out());
     run.errors = options.value(RunOptions::errors());
     run.stopsAtFailure = options.isSet(RunOptions::failFast());
@@ -193,8 +154,9 @@ Result<RowRun> rowRunFromOptions(const QCommandLineParser &options, const Task &
                                                                  run.format.lineVariable, task))
             return *problem;
     }
-    if (const auto problem = checkErrorFile(options, run))
-        return *problem;
+    if (options.isSet(RunOptions::errors()) && run.errors.isEmpty())
+        return unfitOption(QStringLiteral("--errors"),
+                           emptyFileName(Problem::Reason::UnwritableFile).message);
     bool isNumber = false;
     run.jobs = options.value(RunOptions::jobs()).toInt(&isNumber);
     if (!isNumber || run.jobs < 1 || run.jobs > mostJobs) {
