@@ -8,6 +8,11 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <utility>
+
+#ifdef Q_OS_UNIX
+#    include <unistd.h>
+#endif
 
 OutputFile::OutputFile(const QString &name)
     : m_name(name)
@@ -47,7 +52,8 @@ std::optional<Problem> OutputFile::open()
         m_file = std::make_unique<QFile>(m_name);
     else
         m_file = std::make_unique<QSaveFile>(m_name);
-    if (!m_file->open(QIODevice::WriteOnly))
+    // The buffer of QFileDevice forgets the reason when the system takes a part of it only.
+    if (!m_file->open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return unwritable(m_file->errorString());
     return std::nullopt;
 }
@@ -56,9 +62,35 @@ std::optional<Problem> OutputFile::write(const QByteArray &bytes)
 {
     if (isStandardOutput())
         return writeToStandardOutput(bytes);
+    constexpr int enough = 65'536;
+    m_unwritten += bytes;
     const bool isHeldBack = qobject_cast<QSaveFile *>(m_file.get()) != nullptr;
-    if (m_file->write(bytes) != bytes.size() || (!isHeldBack && !m_file->flush()))
-        return unwritable(m_file->errorString());
+    return isHeldBack && m_unwritten.size() < enough ? std::nullopt : writeThrough();
+}
+
+/// Hands everything over to the system, which may take it in parts. The system gives the reason
+/// only when it takes nothing.
+std::optional<Problem> OutputFile::writeThrough()
+{
+    const QByteArray bytes = std::exchange(m_unwritten, {});
+    qint64 written = 0;
+    while (written < bytes.size()) {
+        const qint64 part = m_file->write(bytes.constData() + written, bytes.size() - written);
+        if (part <= 0)
+            return unwritable(m_file->errorString());
+        written += part;
+    }
+    return std::nullopt;
+}
+
+/// Waits until the file is on the disk: some file systems find out only now that it is full. Files
+/// that cannot be waited for are no problem.
+std::optional<Problem> OutputFile::storeOnDisk()
+{
+#ifdef Q_OS_UNIX
+    if (fsync(m_file->handle()) != 0 && errno != EINVAL && errno != ENOTSUP && errno != EROFS)
+        return unwritable(qt_error_string(errno));
+#endif
     return std::nullopt;
 }
 
@@ -76,9 +108,14 @@ std::optional<Problem> OutputFile::commit()
 {
     if (isStandardOutput())
         return std::nullopt;
+    if (auto problem = writeThrough())
+        return problem;
     auto *const whole = qobject_cast<QSaveFile *>(m_file.get());
-    // Committing flushes, too, but keeps to itself whether that went well.
-    if (!m_file->flush() || (whole && !whole->commit()))
-        return unwritable(m_file->errorString());
+    if (!whole)
+        return std::nullopt;
+    if (auto problem = storeOnDisk())
+        return problem;
+    if (!whole->commit())
+        return unwritable(whole->errorString());
     return std::nullopt;
 }

@@ -40,9 +40,12 @@ private:
     Q_DISABLE_COPY_MOVE(OutputFile)
 
     std::optional<Problem> writeToStandardOutput(const QByteArray &bytes);
+    std::optional<Problem> writeThrough();
+    std::optional<Problem> storeOnDisk();
     Problem unwritable(const QString &reason) const;
 
     QString m_name;
     std::unique_ptr<QFileDevice> m_file;
+    QByteArray m_unwritten; ///< kept until there is enough of it
     bool m_readerIsGone = false;
 };

@@ -6,6 +6,12 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#ifdef Q_OS_UNIX
+#    include <cerrno>
+#    include <csignal>
+#    include <sys/resource.h>
+#endif
+
 class FileBytesTest : public QuietTest
 {
     Q_OBJECT
@@ -17,6 +23,8 @@ private Q_SLOTS:
     void cannotRead();
     void cannotWrite_data();
     void cannotWrite();
+    void tellsWhyPartsCannotBeWritten_data();
+    void tellsWhyPartsCannotBeWritten();
 };
 
 namespace {
@@ -92,6 +100,38 @@ void FileBytesTest::cannotWrite()
     QCOMPARE(problem->file, name.isEmpty() ? name : folder.filePath(name));
     QTEST(problem->message, "message");
     QVERIFY(QDir(folder.path()).isEmpty());
+}
+
+void FileBytesTest::tellsWhyPartsCannotBeWritten_data()
+{
+    QTest::addColumn<int>("size");
+    // Below, at and above the size at which content is handed to the system.
+    for (const int size : {20'000, 65'536, 1'000'000})
+        QTest::addRow("%d bytes", size) << size;
+}
+
+/// The system takes the first part of the content and then refuses the rest.
+void FileBytesTest::tellsWhyPartsCannotBeWritten()
+{
+#ifdef Q_OS_UNIX
+    QFETCH(int, size);
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("file");
+    QVERIFY(!writeFileBytes(path, "before"));
+    struct rlimit before = {};
+    QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
+    struct rlimit small = before;
+    small.rlim_cur = 10'000;
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
+    const auto problem = writeFileBytes(path, QByteArray(size, 'x'));
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &before), 0);
+    std::signal(SIGXFSZ, handler);
+    QVERIFY(problem);
+    QCOMPARE(problem->message, QString("cannot be written (%1)").arg(qt_error_string(EFBIG)));
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList("file"));
+    QCOMPARE(readFileBytes(path).value(), QByteArray("before"));
+#endif
 }
 
 QTEST_GUILESS_MAIN(FileBytesTest)
