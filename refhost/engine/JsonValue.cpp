@@ -1,6 +1,7 @@
 #include "refhost/engine/JsonValue.h"
 
 #include "refhost/engine/EngineText.h"
+#include "refhost/engine/Excerpt.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -23,7 +24,7 @@ Problem unfit(const QString &found, const QString &expected)
     return {Problem::Reason::UnfitValue,
             {},
             {},
-            EngineText::tr("%1; expected %2").arg(found, expected)};
+            EngineText::tr("%1; expected %2").arg(excerpt(found), expected)};
 }
 
 QString expectation(VarType type)
@@ -200,7 +201,7 @@ Problem wrongKind(const QString &place, const QJsonValue &found, const QString &
     return {Problem::Reason::WrongKind,
             {},
             place,
-            EngineText::tr("%1; expected %2").arg(jsonText(found), expected)};
+            EngineText::tr("%1; expected %2").arg(excerpt(jsonText(found)), expected)};
 }
 
 QString jsonText(const QJsonValue &json)

@@ -1,5 +1,6 @@
 #include "refhost/engine/RowRunner.h"
 
+#include "refhost/engine/Excerpt.h"
 #include "refhost/engine/JsonFile.h"
 #include "refhost/engine/JsonValue.h"
 #include "refhost/engine/TaskProblem.h"
@@ -26,7 +27,7 @@ Problem unfitRow(qint64 line, const QString &message)
 
 Problem memberProblem(Problem problem, const QString &name, qint64 line)
 {
-    problem.place = lineName(line) + QLatin1String(", ") + jsonText(name);
+    problem.place = lineName(line) + QLatin1String(", ") + excerpt(jsonText(name));
     return problem;
 }
 

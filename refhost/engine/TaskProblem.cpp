@@ -1,6 +1,7 @@
 #include "refhost/engine/TaskProblem.h"
 
 #include "refhost/engine/EngineText.h"
+#include "refhost/engine/Excerpt.h"
 #include "refhost/engine/JsonValue.h"
 
 QString variablePlace(const QString &name)
@@ -31,7 +32,7 @@ Problem unknownType(const QString &place, const QJsonValue &found, const QString
     return {Problem::Reason::UnknownType,
             {},
             place,
-            EngineText::tr("%1; expected %2").arg(jsonText(found), expected)};
+            EngineText::tr("%1; expected %2").arg(excerpt(jsonText(found)), expected)};
 }
 
 Problem unknownVariable(const QString &place, const QString &name, const QStringList &known)
@@ -40,7 +41,7 @@ Problem unknownVariable(const QString &place, const QString &name, const QString
             {},
             place,
             known.isEmpty() ? EngineText::tr("the task has no variable %1; expected none at all")
-                                  .arg(jsonText(name))
+                                  .arg(excerpt(jsonText(name)))
                             : EngineText::tr("the task has no variable %1; expected %2")
-                                  .arg(jsonText(name), listText(known))};
+                                  .arg(excerpt(jsonText(name)), listText(known))};
 }

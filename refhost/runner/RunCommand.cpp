@@ -8,6 +8,7 @@
 #include "refhost/runner/FileRoles.h"
 #include "refhost/runner/OneLine.h"
 #include "refhost/runner/Options.h"
+#include "refhost/runner/RepeatedLines.h"
 #include "refhost/runner/RunOptions.h"
 #include "refhost/runner/StepTrace.h"
 #include "refhost/runner/rows/RowRun.h"
@@ -19,12 +20,15 @@
 
 namespace {
 
-void complainOfStep(const StepReport &report, const QString &file, const Console &console)
+void complainOfStep(const StepReport &report, const QString &file, RepeatedLines &repeated,
+                    const Console &console)
 {
-    for (const QString &line : report.warnings) {
-        console.complain(
+    for (const QString &warning : report.warnings) {
+        const QString line =
             QStringLiteral("%1: steps[%2] (%3): %4")
-                .arg(file, QString::number(report.index), report.step->typeId(), line));
+                .arg(file, QString::number(report.index), report.step->typeId(), warning);
+        if (repeated.isShown(report.index, line))
+            console.complain(line);
     }
 }
 
@@ -53,6 +57,7 @@ int runOnce(const Task &task, const QCommandLineParser &options, const QString &
     VariableScope scope = task.startScope();
     const bool isTraced = options.isSet(RunOptions::trace());
     StepTrace trace;
+    RepeatedLines repeated;
     const auto begin = [&](const Operation &step) {
         if (isTraced)
             trace.begin(step, scope);
@@ -62,9 +67,12 @@ int runOnce(const Task &task, const QCommandLineParser &options, const QString &
         if (isTraced)
             trace.show(done, scope, console);
         else
-            complainOfStep(done, file, console);
+            complainOfStep(done, file, repeated, console);
     };
     runTask(task, scope, report, begin);
+    const QStringList rest = repeated.rest();
+    for (const QString &line : rest)
+        console.complain(line);
     printVariables(scope, options.values(RunOptions::print()), options.isSet(Options::json()),
                    console);
     return warned && options.isSet(RunOptions::strict()) ? Warned : Success;

@@ -18,6 +18,9 @@ private Q_SLOTS:
     void filters_data();
     void filters();
     void badRows();
+    void nulCharacters();
+    void longRows();
+    void repeatedLines();
     void errorFile();
     void warnings();
     void failFast_data();
@@ -155,6 +158,89 @@ void RowsTest::badRows()
                          "oprun: 6 rows: 3 done, 3 failed; 0 warnings\n"));
         QCOMPARE(outcome.status, 1);
     }
+}
+
+void RowsTest::nulCharacters()
+{
+    QVERIFY(m_folder->write("nul", QByteArray("{\"n\":1}\n{\"n\":\0002}\n{\"n\":3}\n", 25)));
+    const QString hint = "a NUL character; expected UTF-8 (text in UTF-16 has to be converted)";
+    for (const QString jobs : {"1", "2"}) {
+        const auto outcome =
+            m_folder->run({"run", "task.json", "--each", "nul", "--print", "r", "--jobs", jobs});
+        QCOMPARE(outcome.out, lineOf("1") + lineOf("3"));
+        QCOMPARE(outcome.err, "oprun: nul: line 2, column 6: " + hint +
+                                  "; the row: {\"n\":\\u00002}\n"
+                                  "oprun: 3 rows: 2 done, 1 failed; 0 warnings\n");
+        QCOMPARE(outcome.status, 1);
+    }
+    const auto lines = m_folder->runShell(
+        "printf 'a\n中\\000b\n' | $OPRUN run task.json --lines word --print r --errors e");
+    QCOMPARE(lines.out, QString("a3\n"));
+    QCOMPARE(lines.err, QString("oprun: 2 rows: 1 done, 1 failed; 0 warnings\n"));
+    QCOMPARE(m_folder->read("e"), ("{\"line\":2,\"problem\":\"line 2, column 2: " + hint +
+                                   "\",\"row\":\"中\\u0000b\"}\n")
+                                      .toUtf8());
+}
+
+/// A message shows 200 characters of a row; the file of errors has all of it.
+void RowsTest::longRows()
+{
+    const QString text = QString(198, 'x') + "𠀀" + QString(100'000, 'y');
+    const QString row = "[\"" + text + "\"]";
+    const QString shown = "[\"" + QString(198, 'x');
+    const QString member = "{\"n\":\"" + text + "\"}";
+    const QString name = "{\"" + text + "\":1}";
+    QVERIFY(m_folder->write("long", ("{}\n" + row + '\n' + member + '\n' + name).toUtf8()));
+    const QStringList arguments{"run", "task.json", "--each", "long", "--print", "r"};
+    const auto outcome = m_folder->run(arguments);
+    const QStringList lines = outcome.err.split('\n');
+    QCOMPARE(lines.size(), 5);
+    QCOMPARE(lines.at(0),
+             QString("oprun: long: line 2, column 1: an array; expected an object in braces; the "
+                     "row of %1 bytes begins: %2")
+                 .arg(row.toUtf8().size())
+                 .arg(shown));
+    QVERIFY2(lines.at(1).contains("\"" + QString(198, 'x') +
+                                  "… (100202 characters); expected a "
+                                  "whole number"),
+             qPrintable(lines.at(1)));
+    for (const QString &line : lines)
+        QVERIFY(line.size() < 800);
+
+    QCOMPARE(m_folder->run(arguments + QStringList{"--errors", "errors"}).status, 1);
+    const QByteArray errors = m_folder->read("errors");
+    for (const QString &whole : {row, member, name})
+        QVERIFY(errors.contains(QString(whole).replace('"', "\\\"").toUtf8()));
+}
+
+/// Standard error has the first 1,000 lines of a kind and a count of the rest.
+void RowsTest::repeatedLines()
+{
+    const auto warned = m_folder->runShell("yes {} | head -n 1203 | $OPRUN run warn.json --each -");
+    QCOMPARE(warned.err.count('\n'), 1002);
+    QVERIFY2(warned.err.endsWith(
+                 "oprun: standard input: 203 more like this one: line 1: steps[0] (text.append): "
+                 "[TextOp] 变量 \"n\" 未声明为字符串，已跳过; \"--errors FILE\" keeps all of them\n"
+                 "oprun: 1203 rows: 1203 done, 0 failed; 1203 warnings\n"),
+             qPrintable(warned.err.right(400)));
+
+    const auto failed = m_folder->runShell(
+        "{ echo {}; seq 2500 | sed 's/.*/{\"n\":\"&\"}/'; seq 1001 | sed 's/.*/{\"m&\":1}/'; echo []; } |"
+        "$OPRUN run task.json --each - --print n --jobs 2");
+    QCOMPARE(failed.err.count('\n'), 2004);
+    const QStringList lines = failed.err.split('\n').mid(2000);
+    QVERIFY2(lines.at(0).startsWith("oprun: standard input: line 3503, column 1: an array"),
+             qPrintable(lines.at(0)));
+    QVERIFY2(lines.at(1).startsWith("oprun: standard input: 1500 more like this one: line 2, "),
+             qPrintable(lines.at(1)));
+    QVERIFY2(lines.at(2).startsWith("oprun: standard input: 1 more like this one: line 2502: "),
+             qPrintable(lines.at(2)));
+    QCOMPARE(lines.at(3), QString("oprun: 3503 rows: 1 done, 3502 failed; 0 warnings"));
+
+    const auto kept =
+        m_folder->runShell("yes {} | head -n 1203 | $OPRUN run warn.json --each - --errors all");
+    QCOMPARE(kept.err.count('\n'), 1);
+    QCOMPARE(m_folder->read("all").count('\n'), 1203);
 }
 
 void RowsTest::errorFile()

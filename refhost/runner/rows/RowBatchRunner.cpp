@@ -1,9 +1,11 @@
 #include "refhost/runner/rows/RowBatchRunner.h"
 
+#include "refhost/runner/RunnerText.h"
 #include "refhost/runner/rows/Interruption.h"
 #include "refhost/runner/rows/RowBatch.h"
 #include "refhost/runner/rows/RowSource.h"
 
+#include <cstring>
 #include <utility>
 
 namespace {
@@ -24,6 +26,20 @@ Problem tooLong(qint64 line)
             QStringLiteral("a row of more than %1 bytes").arg(RowSource::longestRow)};
 }
 
+bool hasNul(const QByteArray &bytes)
+{
+    return std::memchr(bytes.constData(), 0, static_cast<std::size_t>(bytes.size())) != nullptr;
+}
+
+Problem nulCharacter(const QByteArray &row, qint64 line)
+{
+    const int column = QString::fromUtf8(row.constData(), row.indexOf('\0')).size() + 1;
+    return {Problem::Reason::UnfitValue,
+            {},
+            QStringLiteral("line %1, column %2").arg(line).arg(column),
+            RunnerText::tr("a NUL character; expected UTF-8 (text in UTF-16 has to be converted)")};
+}
+
 } // namespace
 
 RowBatchRunner::RowBatchRunner(Task task, const RowFormat &format, bool stopsAtFailure,
@@ -40,6 +56,7 @@ RowBatchOutcome RowBatchRunner::run(const RowBatch &batch)
     RowBatchOutcome outcome;
     if (batch.tooLong)
         addFailure(outcome, batch.firstLine, tooLong(batch.firstLine), {});
+    m_batchHasNul = hasNul(batch.lines);
     qint64 line = batch.firstLine;
     for (int begin = 0; begin < batch.lines.size() && !outcome.isLast; ++line) {
         int end = batch.lines.indexOf('\n', begin);
@@ -65,15 +82,25 @@ bool RowBatchRunner::isNoRow(const QByteArray &row) const
     return m_takesObjects && row.trimmed().isEmpty();
 }
 
+void RowBatchRunner::fail(const QByteArray &row, qint64 line, const Problem &problem,
+                          RowBatchOutcome &outcome) const
+{
+    const QByteArray kept(row.constData(), row.size());
+    addFailure(outcome, line, problem, kept);
+    outcome.isLast = m_stopsAtFailure;
+}
+
 void RowBatchRunner::runRow(const QByteArray &row, qint64 line, RowBatchOutcome &outcome)
 {
     if (isNoRow(row))
         return;
+    if (m_batchHasNul && hasNul(row)) {
+        fail(row, line, nulCharacter(row, line), outcome);
+        return;
+    }
     const RowOutcome result = m_runner.run(row, line);
     if (result.problem) {
-        const QByteArray kept(row.constData(), row.size());
-        addFailure(outcome, line, *result.problem, kept);
-        outcome.isLast = m_stopsAtFailure;
+        fail(row, line, *result.problem, outcome);
         return;
     }
     ++outcome.tally.rows;

@@ -18,11 +18,14 @@ public:
     RowBatchOutcome run(const RowBatch &batch);
 
 private:
+    void fail(const QByteArray &row, qint64 line, const Problem &problem,
+              RowBatchOutcome &outcome) const;
     void runRow(const QByteArray &row, qint64 line, RowBatchOutcome &outcome);
     bool isNoRow(const QByteArray &row) const;
 
     RowRunner m_runner;
     bool m_takesObjects;
     bool m_stopsAtFailure;
+    bool m_batchHasNul = false;
     const Interruption &m_interruption;
 };

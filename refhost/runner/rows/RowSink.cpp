@@ -1,6 +1,8 @@
 #include "refhost/runner/rows/RowSink.h"
 
+#include "refhost/engine/Excerpt.h"
 #include "refhost/runner/Console.h"
+#include "refhost/runner/RunnerText.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -10,7 +12,8 @@ namespace {
 /// Adds the row that failed: as text, or its bytes in Base64 where it is none.
 void addRow(QJsonObject &json, const QByteArray &row)
 {
-    const QString text = QString::fromUtf8(row);
+    // With its size: without it Qt stops at a NUL.
+    const QString text = QString::fromUtf8(row.constData(), row.size());
     if (text.toUtf8() == row)
         json.insert(QStringLiteral("row"), text);
     else
@@ -30,6 +33,19 @@ QByteArray noteLine(const RowNote &note)
         json.insert(QStringLiteral("warning"), note.warning.line);
     }
     return QJsonDocument(json).toJson(QJsonDocument::Compact) + '\n';
+}
+
+/// Returns what a message on standard error says of the row that failed.
+QString rowText(const QByteArray &row)
+{
+    // A character has four bytes at most.
+    const QByteArray begin = row.left(4 * longestExcerpt + 4);
+    const QString text = QString::fromUtf8(begin.constData(), begin.size());
+    const QString shown = beginningOf(text);
+    if (begin.size() == row.size() && shown.size() == text.size())
+        return RunnerText::tr("; the row: %1").arg(text);
+    return RunnerText::tr("; the row of %1 bytes begins: %2")
+        .arg(QString::number(row.size()), shown);
 }
 
 } // namespace
@@ -67,17 +83,27 @@ void RowSink::write(OutputFile &file, const QByteArray &bytes)
         m_problem = file.write(bytes);
 }
 
-void RowSink::complain(const RowNote &note) const
+void RowSink::complain(const RowNote &note)
 {
-    if (note.problem) {
-        Problem problem = *note.problem;
-        problem.file = m_source;
-        m_console.complain(problem.toString() + QStringLiteral("; the row: ") +
-                           QString::fromUtf8(note.row));
-        return;
-    }
-    m_console.complain(QStringLiteral("%1: line %2: steps[%3] (%4): %5")
-                           .arg(m_source, QString::number(note.line),
-                                QString::number(note.warning.step), note.warning.typeId,
-                                note.warning.line));
+    const QString line =
+        note.problem ? note.problem->toString()
+                     : QStringLiteral("line %1: steps[%2] (%3): %4")
+                           .arg(QString::number(note.line), QString::number(note.warning.step),
+                                note.warning.typeId, note.warning.line);
+    if (m_repeated.isShown(note.problem ? -1 : note.warning.step, line))
+        m_console.complain(inSource(note.problem ? line + rowText(note.row) : line));
+}
+
+QString RowSink::inSource(const QString &line) const
+{
+    return QStringLiteral("%1: %2").arg(m_source, line);
+}
+
+void RowSink::finish()
+{
+    m_progress.clear();
+    const QStringList lines = m_repeated.rest();
+    for (const QString &line : lines)
+        m_console.complain(
+            inSource(line + RunnerText::tr("; \"--errors FILE\" keeps all of them")));
 }

@@ -2,6 +2,7 @@
 
 #include "refhost/engine/OutputFile.h"
 #include "refhost/engine/Problem.h"
+#include "refhost/runner/RepeatedLines.h"
 #include "refhost/runner/rows/ProgressLine.h"
 #include "refhost/runner/rows/RowBatchOutcome.h"
 
@@ -20,8 +21,8 @@ public:
     /// Takes the next outcome. False when no more are wanted.
     bool take(const RowBatchOutcome &outcome);
 
-    /// Takes the line of progress away.
-    void finish() { m_progress.clear(); }
+    /// Takes the line of progress away, and counts the notes that were not shown.
+    void finish();
 
     /// What has been taken so far.
     const RowTally &tally() const { return m_tally; }
@@ -33,7 +34,8 @@ private:
     Q_DISABLE_COPY_MOVE(RowSink)
 
     void write(OutputFile &file, const QByteArray &bytes);
-    void complain(const RowNote &note) const;
+    void complain(const RowNote &note);
+    QString inSource(const QString &line) const;
 
     QString m_source;
     OutputFile &m_out;
@@ -41,5 +43,6 @@ private:
     const Console &m_console;
     ProgressLine m_progress;
     RowTally m_tally;
+    RepeatedLines m_repeated; ///< on standard error
     std::optional<Problem> m_problem;
 };
