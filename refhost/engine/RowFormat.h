@@ -6,7 +6,8 @@
 /// What the rows are that a task is run on, and what comes out of each.
 struct RowFormat
 {
-    QString lineVariable;   ///< takes the row as plain text; empty where rows are JSON objects
-    QStringList printed;    ///< the variables that come out; empty for all
-    bool plainText = false; ///< the bare value of the one printed variable, instead of an object
+    QString lineVariable;     ///< takes the row as plain text; empty where rows are JSON objects
+    QStringList printed;      ///< the variables that come out; empty for all
+    bool plainText = false;   ///< the bare value of the one printed variable, instead of an object
+    bool keepsFailed = false; ///< a row that failed leaves a line, too
 };

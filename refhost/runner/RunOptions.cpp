@@ -50,8 +50,10 @@ std::optional<Problem> findMisplacedOption(const QCommandLineParser &options)
     const bool rows = RunOptions::asksForRows(options);
     const QList<QCommandLineOption> misplaced =
         rows ? QList<QCommandLineOption>{RunOptions::trace()}
-             : QList<QCommandLineOption>{RunOptions::out(), RunOptions::errors(),
-                                         RunOptions::failFast(), RunOptions::jobs()};
+             : QList<QCommandLineOption>{RunOptions::out(),      RunOptions::errors(),
+                                         RunOptions::failFast(), RunOptions::onError(),
+                                         RunOptions::skip(),     RunOptions::firstLine(),
+                                         RunOptions::jobs()};
     for (const QCommandLineOption &option : misplaced) {
         if (options.isSet(option)) {
             return Problem{Problem::Reason::UnfitValue,
@@ -126,6 +128,27 @@ QCommandLineOption RunOptions::failFast()
     return {QStringLiteral("fail-fast"), QStringLiteral("Stop at the first row that fails.")};
 }
 
+QCommandLineOption RunOptions::onError()
+{
+    return {QStringLiteral("on-error"),
+            QStringLiteral("Where a row failed, print nothing (skip), or a line with the error in "
+                           "its place (keep)."),
+            QStringLiteral("ACTION"), QStringLiteral("skip")};
+}
+
+QCommandLineOption RunOptions::skip()
+{
+    return {QStringLiteral("skip"), QStringLiteral("Pass over the first rows."),
+            QStringLiteral("N"), QStringLiteral("0")};
+}
+
+QCommandLineOption RunOptions::firstLine()
+{
+    return {QStringLiteral("first-line"),
+            QStringLiteral("Count lines from this number, for a part of a larger file."),
+            QStringLiteral("N"), QStringLiteral("1")};
+}
+
 QCommandLineOption RunOptions::jobs()
 {
     return {QStringLiteral("jobs"),
@@ -135,8 +158,8 @@ QCommandLineOption RunOptions::jobs()
 
 QList<QCommandLineOption> RunOptions::all()
 {
-    return {set(),   print(), Options::json(), trace(),    strict(), each(),
-            lines(), out(),   errors(),        failFast(), jobs()};
+    return {set(), print(),  Options::json(), trace(),   strict(), each(),      lines(),
+            out(), errors(), failFast(),      onError(), skip(),   firstLine(), jobs()};
 }
 
 QString RunOptions::rowFile(const QCommandLineParser &options)

@@ -42,6 +42,15 @@ QCommandLineOption errors();
 /// --fail-fast: stop at the first row that fails.
 QCommandLineOption failFast();
 
+/// --on-error ACTION: skip, or keep a line for each row that failed.
+QCommandLineOption onError();
+
+/// --skip N: pass over the first rows.
+QCommandLineOption skip();
+
+/// --first-line N: the number of the first line of the rows.
+QCommandLineOption firstLine();
+
 /// --jobs N: the number of threads.
 QCommandLineOption jobs();
 

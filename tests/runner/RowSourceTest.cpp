@@ -19,6 +19,9 @@ private Q_SLOTS:
     void batches();
     void passesOverLinesThatAreTooLong();
     void longestLine();
+    void looksAhead();
+    void skips_data();
+    void skips();
     void refuses_data();
     void refuses();
 
@@ -95,7 +98,7 @@ void RowSourceTest::passesOverLinesThatAreTooLong()
 {
     const int limit = 300'000;
     const QByteArray longLine(limit + 200'000, 'x');
-    RowSource source(write("a\n" + longLine + "\nb\n" + longLine), limit);
+    RowSource source(write("a\n" + longLine + "\nb\n" + longLine), 1, limit);
     QVERIFY(!source.open());
     QByteArray found;
     QList<qint64> tooLong;
@@ -111,13 +114,76 @@ void RowSourceTest::passesOverLinesThatAreTooLong()
 void RowSourceTest::longestLine()
 {
     const int limit = 300'000;
-    RowSource source(write(QByteArray(limit - 1, 'x') + "\n"), limit);
+    RowSource source(write(QByteArray(limit - 1, 'x') + "\n"), 1, limit);
     QVERIFY(!source.open());
     const auto batch = source.next(*m_interruption);
     QVERIFY(batch);
     QVERIFY(!batch->tooLong);
     QCOMPARE(batch->lines.size(), limit);
     QVERIFY(!source.next(*m_interruption));
+}
+
+void RowSourceTest::looksAhead()
+{
+    RowSource source(write("\xEF\xBB\xBF\n \na\nb"), 7);
+    QVERIFY(!source.open());
+    for (const bool hasBlankRows : {true, false})
+        QCOMPARE(*source.head(hasBlankRows, *m_interruption), QByteArray("\n \na\nb"));
+    const auto batch = source.next(*m_interruption);
+    QVERIFY(batch);
+    QCOMPARE(batch->lines, QByteArray("\n \na\n"));
+    QCOMPARE(batch->number, 0);
+    QCOMPARE(batch->firstLine, 7);
+    QCOMPARE(source.next(*m_interruption)->lines, QByteArray("b"));
+}
+
+void RowSourceTest::skips_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<int>("count");
+    QTest::addColumn<bool>("hasBlankRows");
+    QTest::addColumn<int>("skipped");
+    QTest::addColumn<QByteArray>("rest");
+    QTest::addColumn<int>("line");
+
+    const QByteArray sample = "\xEF\xBB\xBF\na\n \r\nb\n\nc";
+    QTest::newRow("none") << sample << 0 << true << 0 << QByteArray("\na\n \r\nb\n\nc") << 1;
+    QTest::newRow("lines") << sample << 2 << true << 2 << QByteArray(" \r\nb\n\nc") << 3;
+    QTest::newRow("rows") << sample << 2 << false << 2 << QByteArray("\nc") << 5;
+    QTest::newRow("all rows") << sample << 3 << false << 3 << QByteArray() << 6;
+    QTest::newRow("too many") << sample << 9 << true << 6 << QByteArray() << 6;
+    QTest::newRow("only the mark of the file is one")
+        << QByteArray("a\n\xEF\xBB\xBF\n") << 1 << true << 1 << QByteArray("\xEF\xBB\xBF\n") << 2;
+    QTest::newRow("many blocks") << QByteArray("abcd\n").repeated(100'000) << 99'998 << true
+                                 << 99'998 << QByteArray("abcd\nabcd\n") << 99'999;
+    QTest::newRow("long lines") << QByteArray(300'000, 'x') + "\n" + QByteArray(9, 'y') + "\nz" << 1
+                                << true << 1 << QByteArray("yyyyyyyyy\nz") << 2;
+}
+
+void RowSourceTest::skips()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(int, count);
+    QFETCH(bool, hasBlankRows);
+    QFETCH(int, skipped);
+    QFETCH(QByteArray, rest);
+    QFETCH(int, line);
+
+    // With and without a limit that the long line exceeds.
+    for (const int limit : {RowSource::longestRow, 200'000}) {
+        RowSource source(write(content), 1, limit);
+        QVERIFY(!source.open());
+        QVERIFY(source.head(hasBlankRows, *m_interruption));
+        QCOMPARE(source.skip(count, hasBlankRows, *m_interruption), skipped);
+        QByteArray found;
+        qint64 number = 0;
+        while (const auto batch = source.next(*m_interruption)) {
+            QCOMPARE(batch->firstLine, line + found.count('\n'));
+            QCOMPARE(batch->number, number++);
+            found += batch->lines;
+        }
+        QCOMPARE(found, rest);
+    }
 }
 
 void RowSourceTest::refuses_data()

@@ -23,6 +23,14 @@ private Q_SLOTS:
     void repeatedLines();
     void errorFile();
     void warnings();
+    void foreignFiles_data();
+    void foreignFiles();
+    void firstRowsThatPass_data();
+    void firstRowsThatPass();
+    void keepsFailedRows_data();
+    void keepsFailedRows();
+    void skips_data();
+    void skips();
     void failFast_data();
     void failFast();
     void manyRowsInOrder();
@@ -272,6 +280,222 @@ void RowsTest::warnings()
     QCOMPARE(m_folder->read("w"), note.arg(QString(warning).replace('"', "\\\"")).toUtf8());
 }
 
+void RowsTest::foreignFiles_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<bool>("asLinesToo"); // refused with --lines, too
+
+    const QString rows = "; expected a JSON object on each line: ";
+    const QString asText = "use \"--lines NAME\" to take each line as text";
+    const auto form = [&](const char *name, const QByteArray &content, const QString &format,
+                          const QString &remedy) {
+        QTest::newRow(name) << content << "looks like " + format + rows + remedy << false;
+    };
+    form("comma", "a,b\n1,2\n", "CSV", "convert it, or " + asText);
+    form("quotes", "\"a b\",\"c\"\n", "CSV", "convert it, or " + asText);
+    form("semicolon, blank lines first", "\n \r\n姓名;年龄\n", "CSV", "convert it, or " + asText);
+    form("numbers, no line break", "1\t2", "CSV", "convert it, or " + asText);
+    form("another encoding", "\xd0\xd5,\xc3\xfb\n", "CSV", "convert it, or " + asText);
+    form("text", "hello\nworld\n", "plain text", asText);
+    const QString array = "convert it, for instance with \"jq -c .[]\"";
+    form("array on one line", "[{\"n\":1},{\"n\":2}]", "a JSON array", array);
+    form("array over several lines", "[\n{\"n\":1}\n]\n", "a JSON array", array);
+    form("array of 100 KB, byte order mark",
+         "\xEF\xBB\xBF [" + QByteArray("{\"n\":1},").repeated(12'500) + "{}]", "a JSON array",
+         array);
+    const QString object = "convert it, for instance with \"jq -c .\"";
+    form("object over several lines", "{\n  \"n\": 1\n}\n", "a JSON object over several lines",
+         object);
+    form("object with a member", "{\"word\": \"{\\\"\",\r\n\"n\": 1}\n",
+         "a JSON object over several lines", object);
+    const auto bytes = [](const char *name, const QByteArray &content, const QString &message) {
+        QTest::newRow(name) << content << message << true;
+    };
+    const QString utf16 = "text in UTF-16; expected UTF-8: convert it, for instance with "
+                          "\"iconv -f UTF-16 -t UTF-8\"";
+    const QString unmarked = "looks like text in UTF-16 without a byte order mark; expected UTF-8: "
+                             "convert it, for instance with \"iconv -f UTF-16%1 -t UTF-8\"";
+    const QString sample = "{\"n\":1}\n{\"word\":\"文本\"}\n";
+    const auto inUtf16 = [](const QString &text, bool isBig) {
+        QByteArray encoded;
+        for (const QChar unit : text) {
+            const QByteArray low(1, static_cast<char>(unit.cell()));
+            const QByteArray high(1, static_cast<char>(unit.row()));
+            encoded += isBig ? high + low : low + high;
+        }
+        return encoded;
+    };
+    bytes("UTF-16, little", "\xFF\xFE" + inUtf16(sample, false), utf16);
+    bytes("UTF-16, big", "\xFE\xFF" + inUtf16(sample, true), utf16);
+    bytes("no mark, little", inUtf16(sample, false), unmarked.arg("LE"));
+    bytes("no mark, big", inUtf16(sample, true), unmarked.arg("BE"));
+    bytes("no mark, one line", inUtf16("{}", false), unmarked.arg("LE"));
+    bytes("no mark, mixed", inUtf16("ab中文\n", true), unmarked.arg("BE"));
+    const QString zip = "a zip archive, such as a spreadsheet (.xlsx); expected text: export the "
+                        "rows as text in UTF-8";
+    bytes("xlsx", QByteArray("PK\3\4\024\0\6\0", 8), zip);
+    bytes("zip, version 1", QByteArray("PK\3\4\n\0\0\0", 8), zip);
+    bytes("xls", "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1",
+          "a binary file, such as a spreadsheet (.xls); expected text: export the rows as text in "
+          "UTF-8");
+    bytes("gzip", "\x1F\x8B\x08\x03\n",
+          "a file compressed with gzip; expected text: decompress it, for instance with "
+          "\"gzip -dc\"");
+}
+
+/// One message, and nothing is run.
+void RowsTest::foreignFiles()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, message);
+    QFETCH(bool, asLinesToo);
+
+    QVERIFY(m_folder->write("foreign", content));
+    const QStringList arguments{"run", "task.json", "--each", "foreign", "--out", "o"};
+    for (const QStringList &more : {QStringList(), QStringList{"--jobs", "2"}}) {
+        const auto outcome = m_folder->run(arguments + more);
+        QCOMPARE(outcome.err, "oprun: foreign: " + message + '\n');
+        QCOMPARE(outcome.status, 2);
+        QVERIFY(!QFile::exists(m_folder->filePath("o")));
+    }
+    const auto lines = m_folder->run({"run", "task.json", "--each", "foreign", "--lines", "word"});
+    QCOMPARE(lines.err == "oprun: foreign: " + message + '\n', asLinesToo);
+}
+
+void RowsTest::firstRowsThatPass_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("options");
+    QTest::addColumn<int>("done");
+
+    const auto row = [](const char *name, const QByteArray &content, int done,
+                        const QString &options = {}) {
+        QTest::newRow(name) << content << options << done;
+    };
+    row("CSV behind a row", "{}\na,b\n", 1);
+    row("an array behind a row", "{}\n[]\n", 1);
+    row("a bad row", "{\"n\":\n{}\n", 1);
+    row("a row that is cut off", "{\"word\":\"a,\n{}\n", 1);
+    row("a row with a comma behind it", "{},\n{}\n", 1);
+    row("a scalar", "null\n{}\n", 1);
+    row("a string", "\"a,b\"\n{}\n", 1);
+    row("a number", "-1.5e3\n{}\n", 1);
+    row("a NUL", QByteArray("{\"n\":1\0}\n{}\n", 12), 1);
+    row("no line break", "{", 0);
+    row("a long row", "{\"word\":\"" + QByteArray(200'000, '[') + "\"}\n{}\n", 2);
+    row("blank lines", "\n \n\t{}\n", 1);
+    row("lines of anything", "[\na,b\nPK\3\4\n", 3, "--lines word");
+    row("an empty line", "\nx\n", 2, "--lines word");
+    row("nothing", "", 0);
+    row("a bad row behind those skipped", "{}\n[]\n{}\n", 1, "--skip 1");
+    row("a bad row that is skipped", "a,b\n{}\n{}\n", 2, "--skip 1");
+}
+
+void RowsTest::firstRowsThatPass()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, options);
+    QFETCH(int, done);
+
+    QVERIFY(m_folder->write("passes", content));
+    const auto outcome = m_folder->runShell(
+        "$OPRUN run task.json --each - --errors /dev/null --print n " + options + " < passes");
+    QVERIFY2(outcome.err.contains(QString(" rows: %1 done, ").arg(done)), qPrintable(outcome.err));
+    QCOMPARE(outcome.out.count('\n'), done);
+    QVERIFY(outcome.status <= 1);
+}
+
+void RowsTest::keepsFailedRows_data()
+{
+    QTest::addColumn<QString>("jobs");
+
+    QTest::newRow("one job") << "1";
+    QTest::newRow("three jobs") << "3";
+}
+
+/// Each line of the output stands beside its line of the input.
+void RowsTest::keepsFailedRows()
+{
+    QFETCH(QString, jobs);
+
+    const QStringList keep{"--on-error", "keep", "--jobs", jobs};
+    const auto outcome =
+        m_folder->run(QStringList{"run", "task.json", "--each", "bad", "--print", "r"} + keep);
+    QCOMPARE(outcome.out,
+             lineOf("1") + "\n" +
+                 "{\"error\":\"line 3, column 1: an array; expected an object in braces\"}\n"
+                 "{\"r\":\"b3\"}\n"
+                 "{\"error\":\"line 5, \\\"n\\\": \\\"x\\\"; expected a whole number from "
+                 "-2147483648 to 2147483647\"}\n"
+                 "{\"error\":\"line 6, column 9: malformed JSON (invalid UTF8 string)\"}\n" +
+                 lineOf("2"));
+    QCOMPARE(outcome.err.count('\n'), 4);
+    QCOMPARE(outcome.status, 1);
+
+    QVERIFY(m_folder->write("numbers", "1\nx\n\n4"));
+    const auto plain =
+        m_folder->run(QStringList{"run", "task.json", "--each", "numbers", "--lines", "n",
+                                  "--print", "r", "--errors", "e", "--out", "aligned"} +
+                      keep);
+    QCOMPARE(plain.status, 1);
+    QCOMPARE(plain.err, QString("oprun: 4 rows: 2 done, 2 failed; 0 warnings\n"));
+    QCOMPARE(m_folder->read("aligned"), QByteArray("a1\n\n\na4\n"));
+    QCOMPARE(m_folder->read("e").count('\n'), 2);
+}
+
+void RowsTest::skips_data()
+{
+    QTest::addColumn<QString>("options");
+    QTest::addColumn<QString>("out");
+    QTest::addColumn<QString>("errors");
+
+    const QString error = "oprun: part: line %1, column 1: malformed JSON (illegal value); "
+                          "the row: x\n";
+    const auto summary = [](int done, int failed, int skipped) {
+        const QString text = QString("oprun: %1 rows: %2 done, %3 failed; 0 warnings")
+                                 .arg(done + failed)
+                                 .arg(done)
+                                 .arg(failed);
+        return skipped == 0 ? text + '\n' : text + QString("; %1 skipped\n").arg(skipped);
+    };
+    QTest::newRow("none") << "--skip 0"
+                          << "{\"n\":1}\n{\"n\":2}\n"
+                          << error.arg(4) + summary(2, 1, 0);
+    QTest::newRow("one") << "--skip 1"
+                         << "{\"n\":2}\n"
+                         << error.arg(4) + summary(1, 1, 1);
+    QTest::newRow("lines of a larger file") << "--skip 1 --first-line 1001"
+                                            << "{\"n\":2}\n"
+                                            << error.arg(1004) + summary(1, 1, 1);
+    QTest::newRow("a bad row") << "--skip 2"
+                               << "{\"n\":2}\n"
+                               << summary(1, 0, 2);
+    QTest::newRow("all") << "--skip 3"
+                         << "" << summary(0, 0, 3);
+    QTest::newRow("more than there are") << "--skip 1000"
+                                         << "" << summary(0, 0, 3);
+    QTest::newRow("lines") << "--skip 2 --lines word --print word"
+                           << "\nx\n{\"n\":2}\n"
+                           << summary(3, 0, 2);
+}
+
+void RowsTest::skips()
+{
+    QFETCH(QString, options);
+    QFETCH(QString, out);
+    QFETCH(QString, errors);
+
+    QVERIFY(m_folder->write("part", "{\"n\":1}\n \n\nx\n{\"n\":2}\n"));
+    const QString print = options.contains("--print") ? "" : " --print n";
+    for (const QString jobs : {" --jobs 1", " --jobs 2"}) {
+        const auto outcome =
+            m_folder->runShell("$OPRUN run task.json --each part " + options + print + jobs);
+        QCOMPARE(outcome.err, errors);
+        QCOMPARE(outcome.out, out);
+    }
+}
+
 void RowsTest::failFast_data()
 {
     QTest::addColumn<QString>("jobs");
@@ -335,13 +559,24 @@ void RowsTest::refuses_data()
         "--jobs: \"257\"; expected a whole number from 1 to 256");
     row("jobs no number", {"--each", "rows", "--jobs", "two"},
         "--jobs: \"two\"; expected a whole number from 1 to 256");
+    row("skip less than none", {"--each", "rows", "--skip", "-1"},
+        "--skip: \"-1\"; expected a whole number from 0 to 1000000000000000");
+    row("skip no number", {"--each", "rows", "--skip", "1k"},
+        "--skip: \"1k\"; expected a whole number from 0 to 1000000000000000");
+    row("line 0", {"--each", "rows", "--first-line", "0"},
+        "--first-line: \"0\"; expected a whole number from 1 to 1000000000000000");
+    row("on error what", {"--each", "rows", "--on-error", "stop"},
+        "--on-error: \"stop\"; expected skip or keep");
+    row("stop and keep", {"--each", "rows", "--on-error", "keep", "--fail-fast"},
+        "--fail-fast: cannot go with \"--on-error keep\"");
     row("lines for no variable", {"--each", "rows", "--lines", "m"},
         "--lines: the task has no variable \"m\"; expected n, r, word");
     row("print no variable", {"--each", "rows", "--print", "m"},
         "--print: the task has no variable \"m\"; expected n, r, word");
     row("trace of rows", {"--each", "rows", "--trace"},
         "--trace: cannot go with rows; leave out \"--each\"");
-    for (const QString option : {"--out", "--errors", "--jobs"}) {
+    for (const QString option :
+         {"--out", "--errors", "--jobs", "--on-error", "--skip", "--first-line"}) {
         row(qPrintable(option), {option, "2"},
             option + ": is about rows; expected \"--each FILE\", too");
     }
@@ -491,7 +726,7 @@ void RowsTest::stopsWithoutMoreInput()
         process.start(OPRUN_FILE,
                       {"run", "task.json", "--each", "-", "--fail-fast", "--jobs", jobs});
         QVERIFY(process.waitForStarted());
-        process.write("bad\n");
+        process.write("{bad\n");
         QVERIFY(process.waitForFinished(10'000));
         QCOMPARE(process.exitCode(), 1);
     }

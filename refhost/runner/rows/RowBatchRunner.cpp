@@ -1,5 +1,6 @@
 #include "refhost/runner/rows/RowBatchRunner.h"
 
+#include "refhost/engine/JsonValue.h"
 #include "refhost/runner/RunnerText.h"
 #include "refhost/runner/rows/Interruption.h"
 #include "refhost/runner/rows/RowBatch.h"
@@ -10,20 +11,21 @@
 
 namespace {
 
-void addFailure(RowBatchOutcome &outcome, qint64 line, const Problem &problem,
-                const QByteArray &row)
-{
-    ++outcome.tally.rows;
-    ++outcome.tally.failed;
-    outcome.notes.append({line, problem, row, {}});
-}
-
 Problem tooLong(qint64 line)
 {
     return {Problem::Reason::UnfitValue,
             {},
             QStringLiteral("line %1").arg(line),
             QStringLiteral("a row of more than %1 bytes").arg(RowSource::longestRow)};
+}
+
+/// Returns the line that stands for a row that failed. A plain line could not be told from a value,
+/// so it is empty.
+QByteArray failureLine(const Problem &problem, const RowFormat &format)
+{
+    if (format.plainText)
+        return "\n";
+    return "{\"error\":" + jsonText(problem.toString()).toUtf8() + "}\n";
 }
 
 bool hasNul(const QByteArray &bytes)
@@ -45,7 +47,7 @@ Problem nulCharacter(const QByteArray &row, qint64 line)
 RowBatchRunner::RowBatchRunner(Task task, const RowFormat &format, bool stopsAtFailure,
                                const Interruption &interruption)
     : m_runner(std::move(task), format)
-    , m_takesObjects(format.lineVariable.isEmpty())
+    , m_format(format)
     , m_stopsAtFailure(stopsAtFailure)
     , m_interruption(interruption)
 {
@@ -55,7 +57,7 @@ RowBatchOutcome RowBatchRunner::run(const RowBatch &batch)
 {
     RowBatchOutcome outcome;
     if (batch.tooLong)
-        addFailure(outcome, batch.firstLine, tooLong(batch.firstLine), {});
+        fail({}, batch.firstLine, tooLong(batch.firstLine), outcome);
     m_batchHasNul = hasNul(batch.lines);
     qint64 line = batch.firstLine;
     for (int begin = 0; begin < batch.lines.size() && !outcome.isLast; ++line) {
@@ -79,21 +81,28 @@ RowBatchOutcome RowBatchRunner::run(const RowBatch &batch)
 /// Blank lines between JSON objects are no rows.
 bool RowBatchRunner::isNoRow(const QByteArray &row) const
 {
-    return m_takesObjects && row.trimmed().isEmpty();
+    return m_format.lineVariable.isEmpty() && row.trimmed().isEmpty();
 }
 
 void RowBatchRunner::fail(const QByteArray &row, qint64 line, const Problem &problem,
                           RowBatchOutcome &outcome) const
 {
-    const QByteArray kept(row.constData(), row.size());
-    addFailure(outcome, line, problem, kept);
+    ++outcome.tally.rows;
+    ++outcome.tally.failed;
+    // A copy: the row is a part of the batch.
+    outcome.notes.append({line, problem, QByteArray(row.constData(), row.size()), {}});
+    if (m_format.keepsFailed)
+        outcome.output += failureLine(problem, m_format);
     outcome.isLast = m_stopsAtFailure;
 }
 
 void RowBatchRunner::runRow(const QByteArray &row, qint64 line, RowBatchOutcome &outcome)
 {
-    if (isNoRow(row))
+    if (isNoRow(row)) {
+        if (m_format.keepsFailed)
+            outcome.output += '\n';
         return;
+    }
     if (m_batchHasNul && hasNul(row)) {
         fail(row, line, nulCharacter(row, line), outcome);
         return;

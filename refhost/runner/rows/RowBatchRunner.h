@@ -24,7 +24,7 @@ private:
     bool isNoRow(const QByteArray &row) const;
 
     RowRunner m_runner;
-    bool m_takesObjects;
+    RowFormat m_format;
     bool m_stopsAtFailure;
     bool m_batchHasNul = false;
     const Interruption &m_interruption;

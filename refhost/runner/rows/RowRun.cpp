@@ -7,9 +7,11 @@
 #include "refhost/runner/ExitStatus.h"
 #include "refhost/runner/Options.h"
 #include "refhost/runner/RunOptions.h"
+#include "refhost/runner/RunnerText.h"
 #include "refhost/runner/rows/BatchPool.h"
 #include "refhost/runner/rows/Interruption.h"
 #include "refhost/runner/rows/RowBatchRunner.h"
+#include "refhost/runner/rows/RowFormatGuess.h"
 #include "refhost/runner/rows/RowSink.h"
 #include "refhost/runner/rows/RowSource.h"
 
@@ -26,6 +28,51 @@ constexpr int mostJobs = 256;
 Problem unfitOption(const QString &option, const QString &message)
 {
     return {Problem::Reason::UnfitValue, {}, option, message};
+}
+
+/// Reads the value of `option`, a whole number from `least` to `most`.
+template <typename Number>
+std::optional<Problem> readNumber(const QCommandLineParser &options,
+                                  const QCommandLineOption &option, Number least, Number most,
+                                  Number &number)
+{
+    bool isNumber = false;
+    const QString text = options.value(option);
+    const qint64 value = text.toLongLong(&isNumber);
+    if (!isNumber || value < least || value > most) {
+        return unfitOption(QStringLiteral("--") + option.names().first(),
+                           QStringLiteral("%1; expected a whole number from %2 to %3")
+                               .arg(jsonText(text), QString::number(least), QString::number(most)));
+    }
+    number = static_cast<Number>(value);
+    return std::nullopt;
+}
+
+std::optional<Problem> readNumbers(const QCommandLineParser &options, RowRun &run)
+{
+    // Line numbers are written to JSON, so they have to be exact as floating-point numbers.
+    constexpr qint64 mostLines = 1'000'000'000'000'000;
+    if (auto problem = readNumber(options, RunOptions::jobs(), 1, mostJobs, run.jobs))
+        return problem;
+    if (auto problem = readNumber(options, RunOptions::skip(), qint64(0), mostLines, run.skipped))
+        return problem;
+    return readNumber(options, RunOptions::firstLine(), qint64(1), mostLines, run.firstLine);
+}
+
+/// Reads "--on-error".
+std::optional<Problem> readFailureChoice(const QCommandLineParser &options, RowRun &run)
+{
+    const QString choice = options.value(RunOptions::onError());
+    run.format.keepsFailed = choice == QLatin1String("keep");
+    if (!run.format.keepsFailed && choice != QLatin1String("skip")) {
+        return unfitOption(QStringLiteral("--on-error"),
+                           RunnerText::tr("%1; expected skip or keep").arg(jsonText(choice)));
+    }
+    if (run.format.keepsFailed && run.stopsAtFailure) {
+        return unfitOption(QStringLiteral("--fail-fast"),
+                           RunnerText::tr("cannot go with \"--on-error keep\""));
+    }
+    return std::nullopt;
 }
 
 /// The first of the two that there is.
@@ -77,6 +124,38 @@ void runOnThreads(const Task &task, const RowRun &run, Interruption &interruptio
     pool.finish();
 }
 
+/// Returns a problem if the next row of the source has the form of another kind of file.
+std::optional<Problem> findForeignRow(const RowRun &run, const Interruption &interruption,
+                                      RowSource &source)
+{
+    if (!run.format.lineVariable.isEmpty())
+        return std::nullopt;
+    const auto head = source.head(false, interruption);
+    return head ? findForeignRows(*head) : std::nullopt;
+}
+
+/// Passes over the rows that are to be skipped; `skipped` is how many there were. Returns a problem
+/// if the file has another format than rows.
+std::optional<Problem> begin(const RowRun &run, const Interruption &interruption, RowSource &source,
+                             qint64 &skipped)
+{
+    const bool areLines = !run.format.lineVariable.isEmpty();
+    const auto head = source.head(areLines, interruption);
+    if (!head)
+        return std::nullopt;
+    auto problem = findForeignEncoding(*head);
+    if (!problem) {
+        problem = findForeignRow(run, interruption, source);
+        skipped = source.skip(run.skipped, areLines, interruption);
+        // Only a file that begins with another form and goes on with it has that form.
+        if (problem && skipped > 0)
+            problem = findForeignRow(run, interruption, source);
+    }
+    if (problem)
+        problem->file = source.name();
+    return problem;
+}
+
 std::optional<Problem> runAll(const Task &task, const RowRun &run, Interruption &interruption,
                               RowSource &source, RowSink &sink)
 {
@@ -119,13 +198,15 @@ RowEnd endOf(const RowRun &run, const RowSink &sink, const std::optional<Problem
     return {run.isStrict && sink.tally().warnings > 0 ? Warned : Success, {}, true, {}};
 }
 
-QString summary(const RowTally &tally, const RowEnd &end, const RowRun &run)
+QString summary(const RowTally &tally, qint64 skipped, const RowEnd &end, const RowRun &run)
 {
     QString text = QStringLiteral("%1 rows: %2 done, %3 failed; %4 warnings")
                        .arg(tally.rows)
                        .arg(tally.rows - tally.failed)
                        .arg(tally.failed)
                        .arg(tally.warnings);
+    if (skipped > 0)
+        text += RunnerText::tr("; %1 skipped").arg(skipped);
     const bool outIsMissing = !end.reason.isEmpty() || end.problem;
     if (!end.reason.isEmpty())
         text += QStringLiteral("; ") + end.reason;
@@ -157,20 +238,16 @@ Result<RowRun> rowRunFromOptions(const QCommandLineParser &options, const Task &
     if (options.isSet(RunOptions::errors()) && run.errors.isEmpty())
         return unfitOption(QStringLiteral("--errors"),
                            emptyFileName(Problem::Reason::UnwritableFile).message);
-    bool isNumber = false;
-    run.jobs = options.value(RunOptions::jobs()).toInt(&isNumber);
-    if (!isNumber || run.jobs < 1 || run.jobs > mostJobs) {
-        return unfitOption(QStringLiteral("--jobs"),
-                           QStringLiteral("%1; expected a whole number from 1 to %2")
-                               .arg(jsonText(options.value(RunOptions::jobs())))
-                               .arg(mostJobs));
-    }
+    if (const auto problem = readNumbers(options, run))
+        return *problem;
+    if (const auto problem = readFailureChoice(options, run))
+        return *problem;
     return run;
 }
 
 int runRows(const Task &task, const RowRun &run, const Console &console)
 {
-    RowSource source(run.rows);
+    RowSource source(run.rows, run.firstLine);
     OutputFile out(run.out);
     OutputFile errors(run.errors);
     const bool hasErrors = !run.errors.isEmpty();
@@ -183,6 +260,12 @@ int runRows(const Task &task, const RowRun &run, const Console &console)
     }
     // Until here, where files such as pipes may have to be waited for, Ctrl-C ends the program.
     Interruption interruption;
+    qint64 skipped = 0;
+    problem = begin(run, interruption, source, skipped);
+    if (problem) {
+        console.complain(problem->toString());
+        return BadInput;
+    }
     RowSink sink(source.name(), out, hasErrors ? &errors : nullptr, console);
     problem = runAll(task, run, interruption, source, sink);
     sink.finish();
@@ -196,6 +279,6 @@ int runRows(const Task &task, const RowRun &run, const Console &console)
         end.problem = out.commit();
     if (end.problem)
         console.complain(end.problem->toString());
-    console.complain(summary(sink.tally(), end, run));
+    console.complain(summary(sink.tally(), skipped, end, run));
     return end.problem ? BadInput : end.status;
 }

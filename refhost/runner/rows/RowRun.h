@@ -17,6 +17,8 @@ struct RowRun
     QString errors; ///< the file of what went wrong, empty for standard error
     int jobs = 1;   ///< the number of threads
     bool stopsAtFailure = false;
+    qint64 skipped = 0;    ///< the number of rows at the start that are passed over
+    qint64 firstLine = 1;  ///< the number of the first line of the file
     bool isStrict = false; ///< a warning counts as a failure for the exit status
     RowFormat format;
 };

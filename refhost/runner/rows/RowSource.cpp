@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <utility>
 
 #ifdef Q_OS_UNIX
@@ -48,11 +49,44 @@ QString reasonOf(const QFile &file)
 
 #endif
 
+const char byteOrderMark[] = "\xEF\xBB\xBF";
+
+bool isBlank(const QByteArray &bytes, int begin, int end)
+{
+    // Not a temporary object: QByteArray would trim the bytes where they are.
+    const auto line = QByteArray::fromRawData(bytes.constData() + begin, end - begin);
+    return line.trimmed().isEmpty();
+}
+
+/// Returns the place behind the first `count` rows of `lines`, or the end; `found` is how many
+/// there are.
+int endOfRows(const QByteArray &lines, qint64 count, bool hasBlankRows, qint64 &found)
+{
+    int begin = 0;
+    for (found = 0; found < count && begin < lines.size();) {
+        const int newline = lines.indexOf('\n', begin);
+        const int end = newline < 0 ? lines.size() : newline + 1;
+        if (hasBlankRows || !isBlank(lines, begin, end))
+            ++found;
+        begin = end;
+    }
+    return begin;
+}
+
+/// Returns true if `bytes` holds a row with its line break.
+bool hasRow(const QByteArray &bytes, bool hasBlankRows)
+{
+    qint64 found = 0;
+    return bytes.at(std::max(endOfRows(bytes, 1, hasBlankRows, found) - 1, 0)) == '\n' &&
+           found == 1;
+}
+
 } // namespace
 
-RowSource::RowSource(const QString &name, int limit)
+RowSource::RowSource(const QString &name, qint64 firstLine, int limit)
     : m_name(name)
     , m_limit(limit)
+    , m_line(firstLine)
 {
 }
 
@@ -83,6 +117,41 @@ Problem RowSource::unreadable(const QString &reason) const
             QStringLiteral("cannot be read (%1)").arg(reason)};
 }
 
+std::optional<QByteArray> RowSource::head(bool hasBlankRows, const Interruption &interruption)
+{
+    const int enough = static_cast<int>(Block().size());
+    while (!m_atEnd && m_block.size() < enough &&
+           (m_block.isEmpty() || !hasRow(m_block, hasBlankRows))) {
+        if (!readBlock(interruption))
+            return std::nullopt;
+    }
+    const bool isMarked = m_isAtStart && m_block.startsWith(byteOrderMark);
+    return isMarked ? m_block.mid(static_cast<int>(std::strlen(byteOrderMark))) : m_block;
+}
+
+qint64 RowSource::skip(qint64 count, bool hasBlankRows, const Interruption &interruption)
+{
+    qint64 skipped = 0;
+    while (skipped < count) {
+        const auto batch = next(interruption);
+        if (!batch)
+            break;
+        qint64 found = 1;
+        if (!batch->tooLong)
+            putBack(*batch, endOfRows(batch->lines, count - skipped, hasBlankRows, found));
+        skipped += found;
+    }
+    m_number = 0;
+    return skipped;
+}
+
+/// Makes the lines of `batch` from `begin` on the next that will be returned.
+void RowSource::putBack(const RowBatch &batch, int begin)
+{
+    m_line = batch.firstLine + std::count(batch.lines.begin(), batch.lines.begin() + begin, '\n');
+    m_block.prepend(batch.lines.mid(begin));
+}
+
 std::optional<RowBatch> RowSource::next(const Interruption &interruption)
 {
     while (!m_block.isEmpty() || !m_atEnd) {
@@ -101,7 +170,7 @@ bool RowSource::readBlock(const Interruption &interruption)
         return false;
     Block block;
     const qint64 size = readAvailable(m_file, block);
-    m_block = QByteArray(block.data(), static_cast<int>(std::max<qint64>(size, 0)));
+    m_block.append(block.data(), static_cast<int>(std::max<qint64>(size, 0)));
     m_atEnd = size == 0;
     if (size < 0)
         m_problem = unreadable(reasonOf(m_file));
@@ -142,15 +211,14 @@ std::optional<RowBatch> RowSource::takeRest()
 
 RowBatch RowSource::batchOf(const QByteArray &lines)
 {
-    const QByteArray byteOrderMark = QByteArrayLiteral("\xEF\xBB\xBF");
     RowBatch batch;
     batch.number = m_number++;
     batch.firstLine = m_line;
     batch.tooLong = std::exchange(m_passesOver, false);
     if (!batch.tooLong)
         batch.lines = lines;
-    if (batch.number == 0 && batch.lines.startsWith(byteOrderMark))
-        batch.lines.remove(0, byteOrderMark.size());
+    if (std::exchange(m_isAtStart, false) && batch.lines.startsWith(byteOrderMark))
+        batch.lines.remove(0, static_cast<int>(std::strlen(byteOrderMark)));
     m_line += std::count(lines.begin(), lines.end(), '\n');
     m_rest.clear();
     return batch;

@@ -21,13 +21,24 @@ public:
 
     /// Reads the file called `name`, or standard input for "-". A line of more than `limit` bytes
     /// is passed over as soon as a block of it is too much.
-    explicit RowSource(const QString &name, int limit = longestRow);
+    ///
+    /// `firstLine` is the number of its first line.
+    explicit RowSource(const QString &name, qint64 firstLine = 1, int limit = longestRow);
 
     /// How problems call the source.
     QString name() const;
 
     /// Opens it. A problem tells why it cannot be read.
     std::optional<Problem> open();
+
+    /// Waits for the next row, or for as much of it as is read at once, and returns what has been
+    /// read of the input from there on, which `next` will return, too. Blank lines count as rows if
+    /// `hasBlankRows`. Returns nothing if the interruption ends the waiting, or with a problem.
+    std::optional<QByteArray> head(bool hasBlankRows, const Interruption &interruption);
+
+    /// Passes over up to `count` rows, before the first call of `next`. Returns how many there
+    /// were.
+    qint64 skip(qint64 count, bool hasBlankRows, const Interruption &interruption);
 
     /// The next batch; nothing at the end, when the interruption ends the waiting for it, or with a
     /// problem.
@@ -48,6 +59,7 @@ private:
     std::optional<RowBatch> takeRest();
     RowBatch batchOf(const QByteArray &lines);
     void keepForLater();
+    void putBack(const RowBatch &batch, int begin);
 
     QString m_name;
     int m_limit;
@@ -56,7 +68,8 @@ private:
     QByteArray m_rest;  ///< the begin of the line that goes on in the next block
     bool m_atEnd = false;
     bool m_passesOver = false; ///< within a line that is too long
+    bool m_isAtStart = true;   ///< where a byte order mark may stand
     qint64 m_number = 0;
-    qint64 m_line = 1;
+    qint64 m_line;
     std::optional<Problem> m_problem;
 };
