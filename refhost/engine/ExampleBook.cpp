@@ -3,6 +3,7 @@
 #include "refhost/engine/JsonFile.h"
 #include "refhost/engine/JsonValue.h"
 #include "refhost/engine/OperationCatalog.h"
+#include "refhost/engine/PluginFolder.h"
 
 #include <QFileInfo>
 #include <QJsonArray>
@@ -125,13 +126,6 @@ Result<OperationPage> pageFromJson(const QJsonValue &value, const QString &place
     return page;
 }
 
-QString examplesFile(const QString &pluginFile)
-{
-    const QFileInfo info(pluginFile);
-    return info.path() + QLatin1Char('/') + info.completeBaseName() +
-           QStringLiteral(".examples.json");
-}
-
 } // namespace
 
 std::optional<Problem> ExampleBook::add(const QJsonObject &json, const OperationCatalog &catalog)
@@ -156,7 +150,7 @@ Result<ExampleBook> ExampleBook::read(const OperationCatalog &catalog)
 {
     ExampleBook book;
     for (const LoadedPlugin &plugin : catalog.plugins()) {
-        const QString file = examplesFile(plugin.path());
+        const QString file = fileBeside(plugin.path(), QStringLiteral(".examples.json"));
         if (!QFileInfo::exists(file))
             continue;
         const Result<QJsonObject> json = readJsonObject(file);

@@ -1,6 +1,7 @@
 #include "refhost/engine/PluginFolder.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QLibrary>
 
 QStringList pluginFolders(const QString &programFolder)
@@ -22,4 +23,10 @@ QStringList pluginFiles(const QStringList &folders)
         }
     }
     return files;
+}
+
+QString fileBeside(const QString &plugin, const QString &ending)
+{
+    const QFileInfo info(plugin);
+    return info.path() + QLatin1Char('/') + info.completeBaseName() + ending;
 }

@@ -9,3 +9,7 @@ QStringList pluginFolders(const QString &programFolder);
 
 /// The library files in `folders`, sorted by name within each.
 QStringList pluginFiles(const QStringList &folders);
+
+/// Returns the path of a file that belongs to a plug-in: "<library base name><ending>" in the
+/// folder of the library file, whether or not there is one.
+QString fileBeside(const QString &plugin, const QString &ending);

@@ -117,7 +117,12 @@ int CheckCommand::runWith(const OperationCatalog &catalog, const QCommandLinePar
         console.complain(task.problem().toString());
         return BadInput;
     }
-    const QList<Finding> findings = checkTask(task.value(), catalog);
+    const Result<FactBook> book = FactBook::read(catalog);
+    if (!book) {
+        console.complain(book.problem().toString());
+        return BadInput;
+    }
+    const QList<Finding> findings = checkTask(task.value(), catalog, book.value());
     if (options.isSet(Options::json())) {
         console.printJson(findingsToJson(findings));
     } else {

@@ -1,5 +1,6 @@
 #include "tests/support/QuietTest.h"
 
+#include "refhost/engine/FactBook.h"
 #include "refhost/engine/JsonFile.h"
 #include "refhost/engine/OperationCatalog.h"
 #include "refhost/engine/TaskReader.h"
@@ -27,6 +28,14 @@ private Q_SLOTS:
     void literals() { compare(); }
     void numbers_data();
     void numbers() { compare(); }
+    void specialNumbers_data();
+    void specialNumbers() { compare(); }
+    void searches_data();
+    void searches() { compare(); }
+    void widths_data();
+    void widths() { compare(); }
+    void starts_data();
+    void starts() { compare(); }
     void names_data();
     void names() { compare(); }
     void choices_data();
@@ -42,12 +51,15 @@ private Q_SLOTS:
     void aFinding();
     void longTexts();
     void manySteps();
+    void longChains();
+    void withoutFacts();
 
 private:
     QList<Finding> check(const QByteArray &json) const;
     void compare();
 
     std::unique_ptr<OperationCatalog> m_catalog;
+    FactBook m_book;
     QStringList m_found; ///< the words of all mistakes found so far
 };
 
@@ -119,6 +131,9 @@ void TaskCheckTest::initTestCase()
 {
     m_catalog = std::make_unique<OperationCatalog>(QStringList{PLUGIN_FILE, EDITORS_PLUGIN});
     QVERIFY(m_catalog->failures().isEmpty());
+    const Result<FactBook> book = FactBook::read(*m_catalog);
+    QVERIFY2(book, qPrintable(book ? QString() : book.problem().toString()));
+    m_book = book.value();
 }
 
 QList<Finding> TaskCheckTest::check(const QByteArray &json) const
@@ -129,7 +144,7 @@ QList<Finding> TaskCheckTest::check(const QByteArray &json) const
     const Result<Task> task = TaskReader(*m_catalog).read(object.value());
     if (!task)
         qFatal("%s", qPrintable(task.problem().toString()));
-    return checkTask(task.value(), *m_catalog);
+    return checkTask(task.value(), *m_catalog, m_book);
 }
 
 void TaskCheckTest::compare()
@@ -363,12 +378,260 @@ void TaskCheckTest::numbers_data()
             "charCount: warning empty-number");
 }
 
+void TaskCheckTest::specialNumbers_data()
+{
+    columns();
+    const QString special = "warning special-number";
+    operandRow("infinite", "size", "inf", special);
+    operandRow("negative infinite", "size", "-inf", special);
+    operandRow("no number at all", "size", "nan", special);
+    operandRow("in capitals", "size", "NaN", special);
+    operandRow("infinite text", "size", "$endless", "error undeclared-variable");
+    row("infinite text in a variable", R"("words": {"type": "string", "value": "inf"})",
+        R"({"type": "editors.operands", "size": "$words"})", {"steps[0].size: " + special});
+    row("infinite number in a variable", R"("endless": {"type": "double", "value": "inf"})",
+        R"({"type": "editors.operands", "size": "$endless"})", {});
+    operandRow("a word", "size", "infinity", "error not-a-number");
+
+    const QString beyond = "warning number-beyond-int";
+    const auto startRow = [](const char *name, const char *start, const QString &finding) {
+        stepRow(name,
+                QByteArray(R"({"type": "text.substring", "sourceText": "$line", "startIndex": ")") +
+                    start + R"(", "resultVar": "part"})",
+                finding.isEmpty() ? QString() : "startIndex: " + finding);
+    };
+    startRow("largest start", "2147483647", "");
+    startRow("start beyond", "2147483648", beyond);
+    startRow("lowest start", "-2147483648", "");
+    startRow("start below", "-2147483649", beyond);
+    startRow("infinite start", "inf", special);
+    operandRow("large, but no int asked for", "size", "3000000000", "");
+
+    const auto toNumber = [](const char *name, const QByteArray &variables, const char *text,
+                             const char *result, const QStringList &findings) {
+        row(name, variables,
+            QByteArray(R"({"type": "text.toNumber", "sourceText": ")") + text +
+                R"(", "resultVar": ")" + result + "\"}",
+            findings);
+    };
+    toNumber("largest int", {}, "2147483647", "count", {});
+    toNumber("number beyond an int", {}, "3000000000", "count", {"steps[0].resultVar: " + beyond});
+    toNumber("number beyond an int in a double", {}, "3000000000", "ratio", {});
+    const QByteArray phone = R"("phone": {"type": "string", "value": "13800138000"})";
+    toNumber("start value beyond an int", phone, "$phone", "count",
+             {"steps[0].resultVar: " + beyond});
+    toNumber("infinite result", {}, "inf", "ratio", {"steps[0].sourceText: " + special});
+
+    const QString none = "steps[0].sourceText: error not-a-number";
+    toNumber("literal", {}, "12.5", "ratio", {});
+    toNumber("literal with blanks", {}, " 12 ", "ratio", {});
+    toNumber("literal that is no number", {}, "￥12", "ratio", {none});
+    toNumber("no literal", {}, "", "ratio", {none});
+    const QString no = "steps[0].sourceText: warning not-a-number";
+    for (const char *price : {"1,234.5", "12元", "１２", "12%", "abc", "1 000"}) {
+        const QByteArray variable =
+            QByteArray(R"("price": {"type": "string", "value": ")") + price + "\"}";
+        toNumber(price, variable, "$price", "ratio", {no});
+    }
+    for (const char *price : {"1234.5", " 12\\n", "-1e3", ""}) {
+        const QByteArray variable =
+            QByteArray(R"("price": {"type": "string", "value": ")") + price + "\"}";
+        toNumber(*price ? price : "text from outside", variable, "$price", "ratio", {});
+    }
+    toNumber("int", {}, "$count", "ratio", {});
+    toNumber("bool", {}, "$done", "ratio", {"steps[0].sourceText: warning reference-type"});
+    const QByteArray price = R"("price": {"type": "string", "value": "1,234"})";
+    const QByteArray clean = R"({"type": "text.replace", "sourceText": "$price", "oldText": ",",
+        "newText": "", "resultVar": "price"})";
+    const QByteArray read =
+        R"({"type": "text.toNumber", "sourceText": "$price", "resultVar": "ratio"})";
+    row("start value that is cleaned first", price, clean + ',' + read, {});
+    row("start value that is cleaned too late", price, read + ',' + clean, {no});
+
+    stepRow("empty with a default, total", R"({"type": "text.pad", "sourceText": "$line",
+        "padText": "-", "resultVar": "part"})",
+            "");
+    stepRow("empty with a default, decimals", R"({"type": "text.fromNumber", "value": "$ratio",
+        "resultVar": "part"})",
+            "");
+    stepRow("empty with a default, width", R"({"type": "text.split", "sourceText": "$line",
+        "resultVar": "parts"})",
+            "");
+    stepRow("empty without a default", R"({"type": "text.fromNumber", "resultVar": "part"})",
+            "value: warning empty-number");
+}
+
+void TaskCheckTest::searches_data()
+{
+    columns();
+    // A search of "x" in a text from outside.
+    const auto searchRow = [](const QByteArray &needle, const QString &finding,
+                              const char *source = "$part") {
+        const QByteArray step = QByteArray(R"({"type": "text.find", "sourceText": ")") + source +
+                                R"(", "resultVar": "count", "searchText": ")" + needle + "\"}";
+        row(needle + " in " + source, {}, step,
+            finding.isEmpty() ? QStringList() : QStringList("steps[0].searchText: " + finding));
+    };
+    const QString pattern = "warning typed-pattern";
+    // As they stand in JSON, with a blank between two.
+    const QString patterns =
+        R"([0-9]+ [0-9] [1-9][0-9]* [a-z] [A-Za-z0-9_]+ \\d \\d+ \\d{4} ^\\s* \\S+@\\S+ \\w+ *.txt *.*
+           report*.xlsx file?.csv 报表*.xlsx .* a.*b .+ [^,]+ [^;]* \\. \\(x\\) (?i)total (?:a|b)
+           [一-龥]+ v1.*)";
+    const QString texts =
+        R"(; x [ ] [备注] [note] [] (a|b) a.b a|b 5* 必填* *** **bold** ... ....* 3.5 ? what? a+b C++
+           c: {name} {1} ^ ^_^ ( ) (?) # // /* */ \\ C:\\data \\server \\data\\sub [12] [1-3]
+           [2024-01-05] a*b 2*3.5)";
+    for (const QString &text : patterns.simplified().split(' '))
+        searchRow(text.toUtf8(), pattern);
+    for (const QString &text : texts.simplified().split(' '))
+        searchRow(text.toUtf8(), "");
+    searchRow("[0-9]+", "", "the class [0-9]+ stands here");
+    searchRow("*.txt", pattern, "a.txt");
+
+    const auto splitRow = [](const char *name, const char *separator, const QString &finding) {
+        const QByteArray step =
+            QByteArray(R"({"type": "text.split", "sourceText": "$part", "splitMode": 1,
+            "resultVar": "parts", "separator": ")") +
+            separator + "\"}";
+        stepRow(name, step, finding.isEmpty() ? QString() : "separator: " + finding);
+    };
+    splitRow("two separators", "[,;]", pattern);
+    splitRow("one or the other", ",|;", pattern);
+    splitRow("blanks", R"(\\s+)", pattern);
+    splitRow("bar", "|", "");
+    splitRow("bars", " || ", "");
+    splitRow("comma", ",", "");
+    splitRow("no separator", "", "warning empty-search");
+
+    const QString empty = "warning empty-search";
+    stepRow("no search text", R"({"type": "text.find", "sourceText": "$part",
+        "resultVar": "count"})",
+            "searchText: " + empty);
+    stepRow("nothing to replace", R"({"type": "text.replace", "sourceText": "$part",
+        "newText": "x", "resultVar": "part"})",
+            "oldText: " + empty);
+    stepRow("replaced by nothing", R"({"type": "text.replace", "sourceText": "$part",
+        "oldText": "x", "resultVar": "part"})",
+            "");
+    stepRow("no marker", R"({"type": "text.between", "sourceText": "$part", "cutMode": 0,
+        "resultVar": "part"})",
+            "endMarker: " + empty);
+    stepRow("no end", R"({"type": "text.between", "sourceText": "$part", "cutMode": 2,
+        "startMarker": "x", "resultVar": "part"})",
+            "endMarker: " + empty);
+    stepRow("pattern as a marker", R"({"type": "text.between", "sourceText": "$part",
+        "cutMode": 1, "startMarker": "[0-9]", "resultVar": "part"})",
+            "startMarker: " + pattern);
+    stepRow("pattern that is put in", R"({"type": "text.replace", "sourceText": "$part",
+        "oldText": "x", "newText": "[0-9]+", "resultVar": "part"})",
+            "");
+    stepRow("pattern that is padded", R"({"type": "text.append", "sourceText": "$part",
+        "appendText": ".*", "resultVar": "part"})",
+            "");
+}
+
+void TaskCheckTest::widths_data()
+{
+    columns();
+    const QString width = "full-width";
+    textRow("full-width reference", "＄line", "warning " + width);
+    textRow("full-width dollar in a text", "Dear ＄line!", "note " + width);
+    textRow("full-width dollar and no name", "＄lien", "");
+    textRow("full-width price", "＄5", "");
+    operandRow("full-width number", "size", "＄count", "error not-a-number");
+
+    // Splits "source", which starts with the text, at the separator.
+    const auto splitRow = [](const char *name, const char *text, const char *separator,
+                             bool isFound, const char *more = "") {
+        const QByteArray variable =
+            QByteArray(R"("source": {"type": "string", "value": ")") + text + "\"}";
+        const QByteArray split = QByteArray(R"({"type": "text.split", "sourceText": "$source",
+            "splitMode": 1, "resultVar": "parts", "separator": ")") +
+                                 separator + "\"}";
+        const int step = *more ? 1 : 0;
+        row(name, variable, *more ? more + QByteArray(",") + split : split,
+            isFound ? QStringList(QString("steps[%1].separator: warning full-width").arg(step))
+                    : QStringList());
+    };
+    splitRow("full-width semicolon", "a;b", "；", true);
+    splitRow("half-width semicolon", "a；b", ";", true);
+    splitRow("full-width comma", "1,2,3", "，", true);
+    splitRow("full-width colon", "名称: 钢笔", "：", true);
+    splitRow("ideographic space", "a b", "　", true);
+    splitRow("the same", "a；b", "；", false);
+    splitRow("both in the data", "a;b；c", "；", false);
+    splitRow("neither in the data", "a/b", "；", false);
+    splitRow("from outside", "", "；", false);
+    splitRow("trimmed before", " a;b ", "；", true,
+             R"({"type": "text.trim", "sourceText": "$source", "mode": 2, "resultVar": "source"})");
+    splitRow("made full-width before", "a;b", "；", false,
+             R"({"type": "text.replace", "sourceText": "$source", "oldText": ";",
+                 "newText": "；", "resultVar": "source"})");
+    splitRow("appended before", "a;b", "；", false,
+             R"({"type": "text.append", "sourceText": "$source", "appendText": "；c",
+                 "resultVar": "source"})");
+    splitRow("appended from outside", "a;b", "；", false,
+             R"({"type": "text.append", "sourceText": "$source", "appendText": "$part",
+                 "resultVar": "source"})");
+    const QByteArray source = R"("source": {"type": "string", "value": "a,b"})";
+    const auto replace = [](const QByteArray &from, const QByteArray &to) {
+        return R"({"type": "text.replace", "sourceText": "$source", "oldText": ")" + from +
+               R"(", "newText": ")" + to + R"(", "resultVar": "source"})";
+    };
+    row("one form made of two", source, replace("，", ","), {});
+    row("both forms taken out", source, replace(",", "") + ',' + replace("，", ""), {});
+    row("one form taken out", source, replace("，", ""), {"steps[0].oldText: warning " + width});
+    row("joined list", R"("list": {"type": "list", "value": ["a", "b"]})",
+        R"({"type": "text.join", "listVar": "list", "separator": ";", "resultVar": "line"},
+           {"type": "text.find", "sourceText": "$line", "searchText": "；", "resultVar": "count"})",
+        {"steps[1].searchText: warning " + width});
+}
+
+void TaskCheckTest::starts_data()
+{
+    columns();
+    const QString note = "steps[1].startIndex: note maybe-not-found";
+    const auto cutRow = [](const char *name, const char *source, const char *needle,
+                           const char *start, const QStringList &findings) {
+        row(name, R"("place": {"type": "int"})",
+            QByteArray(R"({"type": "text.find", "sourceText": ")") + source +
+                R"(", "searchText": ")" + needle + R"(", "resultVar": "place"},
+                {"type": "text.substring", "sourceText": ")" +
+                source + R"(", "startIndex": ")" + start + R"(", "resultVar": "part"})",
+            findings);
+    };
+    cutRow("position in a text from outside", "$part", ";", "$place", {note});
+    cutRow("position in a text that has it", "$line", ";", "$place", {});
+    cutRow("position in a text that has it not", "$line", "#", "$place", {note});
+    cutRow("position in a literal", "a-b", "-", "$place", {});
+    cutRow("position of a text from outside", "$line", "$part", "$place", {note});
+    cutRow("another variable", "$part", ";", "$count", {});
+    row("position as a count", R"("place": {"type": "int"})",
+        R"({"type": "text.find", "sourceText": "$part", "searchText": ";", "resultVar": "place"},
+           {"type": "text.substring", "sourceText": "$part", "startIndex": 0, "lengthMode": 1,
+            "charCount": "$place", "resultVar": "part"})",
+        {});
+    row("position that is written anew", R"("place": {"type": "int"})",
+        R"({"type": "text.find", "sourceText": "$part", "searchText": ";", "resultVar": "place"},
+           {"type": "text.fromNumber", "value": "$place", "resultVar": "line"},
+           {"type": "text.toNumber", "sourceText": "3", "resultVar": "place"},
+           {"type": "text.substring", "sourceText": "$part", "startIndex": "$place",
+            "resultVar": "part"})",
+        {});
+    row("position of filling", R"("place": {"type": "int"})",
+        R"({"type": "text.find", "sourceText": "$part", "searchText": ";", "resultVar": "place"},
+           {"type": "text.pad", "sourceText": "$part", "position": 1, "index": "$place",
+            "padText": "-", "resultVar": "part"})",
+        {"steps[1].index: note maybe-not-found"});
+}
+
 void TaskCheckTest::names_data()
 {
     columns();
     const auto resultRow = [](const char *name, const char *type, const char *variable,
                               const QString &finding) {
-        const QByteArray step = QByteArray(R"({"type": ")") + type + R"(", "sourceText": "$line",
+        const QByteArray step = QByteArray(R"({"type": ")") + type + R"(", "sourceText": "$part",
             "resultVar": ")" + variable +
                                 "\"}";
         stepRow(name, step, finding.isEmpty() ? QString() : "resultVar: " + finding);
@@ -498,6 +761,28 @@ void TaskCheckTest::flow_data()
     row("not written by another type, then read", R"("n": {"type": "int"})",
         reverse + R"(, {"type": "editors.operands", "text": "$n"})",
         {"steps[0].resultVar: error result-type", "steps[1].text: warning reads-empty"});
+
+    // An input that is another one when it is read again.
+    const QByteArray input = R"("input": {"type": "string", "value": ""},
+        "a": {"type": "string"}, "b": {"type": "string"})";
+    const auto reversed = [](const QByteArray &from, const QByteArray &to) {
+        return R"({"type": "text.reverse", "sourceText": ")" + from + R"(", "resultVar": ")" + to +
+               "\"}";
+    };
+    row("input overwritten", input,
+        reversed("$input", "a") + ',' + reversed("$a", "input") + ',' + reversed("$input", "b"),
+        {"steps[1].resultVar: note input-overwritten"});
+    row("input changed in its place", input,
+        reversed("$input", "a") + ',' + reversed("$input", "input") + ',' + reversed("$input", "b"),
+        {});
+    row("input changed first", input, reversed("$input", "input") + ',' + reversed("$input", "b"),
+        {});
+    row("input overwritten last", input, reversed("$input", "a") + ',' + reversed("$a", "input"),
+        {});
+    row("no input", input,
+        reversed("$a", "input") + ',' + reversed("$input", "b") + ',' + reversed("$b", "a"),
+        {"steps[0].sourceText: warning read-before-write"});
+    row("variable without a start value", {}, reversed("x", "part"), {});
 
     // A name near to it tells nothing about the variable but that it was not forgotten.
     row("read only, and meant elsewhere", R"("price": {"type": "string"})",
@@ -707,6 +992,35 @@ void TaskCheckTest::manySteps()
         check("{\"variables\": {" + variables + R"(, "r": {"type": "string"}}, "steps": [)" +
               steps + "]}");
     QCOMPARE(findings.size(), 0);
+}
+
+void TaskCheckTest::longChains()
+{
+    // Neither time nor the stack grows with the steps that a text has gone through.
+    QByteArray steps;
+    for (int i = 0; i < 5000; ++i) {
+        steps += (i ? "," : "") + QByteArray(R"({"type": "text.replace", "sourceText": "$r",
+            "oldText": "；", "newText": ";", "resultVar": "r"})");
+    }
+    QCOMPARE(
+        check(R"({"variables": {"r": {"type": "string", "value": "x"}}, "steps": [)" + steps + "]}")
+            .size(),
+        0);
+}
+
+void TaskCheckTest::withoutFacts()
+{
+    // Without a file of facts nothing is known but what annotations tell.
+    const Result<QJsonObject> json = parseJsonObject(
+        R"({"variables": {"r": {"type": "string"}, "n": {"type": "int"}}, "steps": [
+            {"type": "text.find", "sourceText": "a;b", "searchText": "[0-9]+", "resultVar": "n"},
+            {"type": "text.substring", "sourceText": "$r", "startIndex": "$n", "resultVar": "r"},
+            {"type": "text.pad", "sourceText": "$r", "padText": "-", "resultVar": "r"}]})",
+        {});
+    const Result<Task> task = TaskReader(*m_catalog).read(json.value());
+    const QList<Finding> findings = checkTask(task.value(), *m_catalog);
+    QCOMPARE(findings.size(), 1);
+    QCOMPARE(shown(findings.first()), QString("steps[2].totalLength: warning empty-number"));
 }
 
 QTEST_GUILESS_MAIN(TaskCheckTest)

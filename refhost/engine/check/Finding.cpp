@@ -20,6 +20,9 @@ QStringList mistakeIds()
             QStringLiteral("empty-path"),          QStringLiteral("reference-type"),
             QStringLiteral("not-a-number"),        QStringLiteral("empty-number"),
             QStringLiteral("number-as-text"),      QStringLiteral("typed-escape"),
+            QStringLiteral("typed-pattern"),       QStringLiteral("empty-search"),
+            QStringLiteral("full-width"),          QStringLiteral("special-number"),
+            QStringLiteral("number-beyond-int"),   QStringLiteral("maybe-not-found"),
             QStringLiteral("lone-dollar"),         QStringLiteral("dollar-in-text"),
             QStringLiteral("missing-dollar"),      QStringLiteral("name-with-dollar"),
             QStringLiteral("undeclared-result"),   QStringLiteral("empty-result"),
@@ -27,7 +30,7 @@ QStringList mistakeIds()
             QStringLiteral("input-type"),          QStringLiteral("unknown-mode"),
             QStringLiteral("hidden-setting"),      QStringLiteral("reads-empty"),
             QStringLiteral("read-before-write"),   QStringLiteral("overwritten-unread"),
-            QStringLiteral("unused-variable")};
+            QStringLiteral("input-overwritten"),   QStringLiteral("unused-variable")};
 }
 
 QString severityName(Severity severity)

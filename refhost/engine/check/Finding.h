@@ -13,12 +13,18 @@ enum class Mistake {
     ReferenceType,      ///< a reference to a variable of a type that is not asked for
     NotANumber,         ///< a numeric operand that is none
     EmptyNumber,
-    NumberAsText,   ///< a text that changes since it travels as a number
-    TypedEscape,    ///< a typed "\n" where a line feed was meant
-    LoneDollar,     ///< "$" alone
-    DollarInText,   ///< "$name" amid a text
-    MissingDollar,  ///< a text that is the name of a variable nobody reads
-    NameWithDollar, ///< "$name" where the bare name belongs
+    NumberAsText,    ///< a text that changes since it travels as a number
+    TypedEscape,     ///< a typed "\n" where a line feed was meant
+    TypedPattern,    ///< a regular expression or a wildcard where a text is searched for
+    EmptySearch,     ///< no text to search for
+    FullWidth,       ///< a full-width character where the half-width one was meant, or the reverse
+    SpecialNumber,   ///< "nan" or "inf" where a number is asked for
+    NumberBeyondInt, ///< a number that is too large for 32 bits where only these are kept
+    MaybeNotFound,   ///< the position of a text, which may not have been found, used as a start
+    LoneDollar,      ///< "$" alone
+    DollarInText,    ///< "$name" amid a text
+    MissingDollar,   ///< a text that is the name of a variable nobody reads
+    NameWithDollar,  ///< "$name" where the bare name belongs
     UndeclaredResult,
     EmptyResult,
     ResultType,
@@ -29,6 +35,7 @@ enum class Mistake {
     ReadsEmpty,      ///< a variable that is read and has no value ever
     ReadBeforeWrite, ///< by a step before the one that writes it, not by that one
     OverwrittenUnread,
+    InputOverwritten, ///< by another value between two steps that read it
     UnusedVariable
 };
 

@@ -114,6 +114,38 @@ void checkOverwriting(const TaskVariable &variable, const TaskFacts &facts,
     }
 }
 
+/// The first that the editor shows of a step after `step`; null if there is none.
+const Setting *shownAfter(const Uses &uses, int step)
+{
+    const auto found = std::find_if(uses.begin(), uses.end(), [=](const Setting *use) {
+        return use->isShown && use->step > step;
+    });
+    return found == uses.end() ? nullptr : *found;
+}
+
+/// Finds a first value that one step reads, another step replaces without reading it, and a third
+/// step reads again. A step that changes the value of the variable it reads is meant to.
+void checkInput(const TaskVariable &variable, const TaskFacts &facts, QList<Finding> &findings)
+{
+    const Uses writers = facts.writers(variable.name);
+    const Uses readers = facts.readers(variable.name);
+    if (!variable.value.isValid() || writers.isEmpty())
+        return;
+    const Setting &writer = *writers.first();
+    const Setting *const before = shownAfter(readers, -1);
+    const Setting *const after = shownAfter(readers, writer.step);
+    if (!before || before->step >= writer.step || !after ||
+        isReadWithin(readers, writer.step - 1, writer.step))
+        return;
+    const QString reader = stepText(after->step);
+    findings.append(findingAt(
+        writer, Mistake::InputOverwritten, Severity::Note,
+        {EngineText::tr("%1 gets another value here, between %2 and %3, which both read it")
+             .arg(quoted(variable.name), stepText(before->step), reader),
+         EngineText::tr("%1 reads this result, not the start value").arg(reader),
+         EngineText::tr("name another variable here, if %1 needs the start value").arg(reader)}));
+}
+
 } // namespace
 
 QList<Finding> flowFindings(const TaskFacts &facts, const QSet<QString> &meant)
@@ -126,6 +158,7 @@ QList<Finding> flowFindings(const TaskFacts &facts, const QSet<QString> &meant)
             checkUse(variable, facts, findings);
         checkFirstRead(variable, facts, findings);
         checkOverwriting(variable, facts, findings);
+        checkInput(variable, facts, findings);
     }
     return findings;
 }

@@ -10,6 +10,8 @@ namespace {
 
 using MaybeFinding = std::optional<Finding>;
 
+constexpr QChar fullWidthDollar(0xFF04);
+
 bool isLiteral(const Setting &setting, PropertyRole role)
 {
     return setting.role == role && !setting.operand.isReference;
@@ -18,7 +20,8 @@ bool isLiteral(const Setting &setting, PropertyRole role)
 MaybeFinding emptyNumber(const Setting &setting, const TaskFacts &facts)
 {
     Q_UNUSED(facts)
-    if (!isLiteral(setting, PropertyRole::Number) || !setting.text().isEmpty())
+    if (!isLiteral(setting, PropertyRole::Number) || !setting.text().isEmpty() ||
+        setting.facts.whenEmpty)
         return std::nullopt;
     return findingAt(setting, Mistake::EmptyNumber, Severity::Warning,
                      {EngineText::tr("no number is given"),
@@ -31,14 +34,15 @@ MaybeFinding notANumber(const Setting &setting, const TaskFacts &facts)
     const QString text = setting.text();
     if (!isLiteral(setting, PropertyRole::Number) || text.isEmpty() || literalNumber(text))
         return std::nullopt;
+    const QString name = text.mid(text.startsWith(fullWidthDollar) ? 1 : 0);
     const QString remedy =
-        facts.variable(text)
-            ? EngineText::tr("write %1 for the variable").arg(quoted(QLatin1Char('$') + text))
+        facts.variable(name)
+            ? EngineText::tr("write %1 for the variable").arg(quoted(QLatin1Char('$') + name))
             : EngineText::tr("write digits, with \".\" before decimals and no group separators");
     return findingAt(setting, Mistake::NotANumber, Severity::Error,
                      {EngineText::tr("%1 is no number").arg(quoted(text)),
                       EngineText::tr("the step goes on without a number, or does nothing"), remedy,
-                      facts.variable(text) ? text : QString()});
+                      facts.variable(name) ? name : QString()});
 }
 
 MaybeFinding numberAsText(const Setting &setting, const TaskFacts &facts)

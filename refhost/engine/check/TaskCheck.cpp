@@ -4,7 +4,9 @@
 #include "refhost/engine/check/FlowRules.h"
 #include "refhost/engine/check/LiteralRules.h"
 #include "refhost/engine/check/NameRules.h"
+#include "refhost/engine/check/NumberRules.h"
 #include "refhost/engine/check/ReferenceRules.h"
+#include "refhost/engine/check/SearchRules.h"
 #include "refhost/engine/check/TaskFacts.h"
 #include "refhost/engine/check/TypeRules.h"
 
@@ -35,11 +37,11 @@ std::pair<int, int> placeInTask(const Finding &finding, const TaskFacts &facts)
 
 } // namespace
 
-QList<Finding> checkTask(const Task &task, const OperationCatalog &catalog)
+QList<Finding> checkTask(const Task &task, const OperationCatalog &catalog, const FactBook &book)
 {
-    const TaskFacts facts(task, catalog);
-    const QList<SettingRule> shown =
-        referenceRules() + typeRules() + literalRules() + nameRules() + choiceRules();
+    const TaskFacts facts(task, catalog, book);
+    const QList<SettingRule> shown = referenceRules() + typeRules() + numberRules() +
+                                     literalRules() + searchRules() + nameRules() + choiceRules();
     const QList<SettingRule> hidden = hiddenRules();
     QList<Finding> findings;
     for (const QVector<Setting> &step : facts.steps()) {

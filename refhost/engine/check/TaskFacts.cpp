@@ -108,20 +108,26 @@ bool takesResult(const PropertySchema &schema, VarType type)
     return asksForNumbers(schema) && !holdsElements(type);
 }
 
-TaskFacts::TaskFacts(const Task &task, const OperationCatalog &catalog)
+bool isSearchText(const Setting &setting)
+{
+    return setting.facts.purpose == Purpose::SearchText ||
+           setting.facts.purpose == Purpose::Marker || setting.facts.purpose == Purpose::Separator;
+}
+
+TaskFacts::TaskFacts(const Task &task, const OperationCatalog &catalog, const FactBook &book)
     : m_variables(task.variables)
     , m_names(namesOf(task.variables))
 {
     for (int i = 0; i < m_variables.size(); ++i)
         m_places.insert(m_variables.at(i).name, i);
-    readSteps(task, catalog);
+    readSteps(task, catalog, book);
     for (const QVector<Setting> &step : qAsConst(m_steps)) {
         for (const Setting &setting : step)
             noteUse(setting);
     }
 }
 
-void TaskFacts::readSteps(const Task &task, const OperationCatalog &catalog)
+void TaskFacts::readSteps(const Task &task, const OperationCatalog &catalog, const FactBook &book)
 {
     Schemas schemas(catalog);
     for (const auto &step : task.steps) {
@@ -130,6 +136,7 @@ void TaskFacts::readSteps(const Task &task, const OperationCatalog &catalog)
         for (const PropertySchema &property : properties) {
             settings.append(readSetting(*step, property));
             settings.last().step = m_steps.size();
+            settings.last().facts = book.property(step->typeId(), property.name);
         }
         m_steps.append(settings);
     }
@@ -138,6 +145,8 @@ void TaskFacts::readSteps(const Task &task, const OperationCatalog &catalog)
 void TaskFacts::noteUse(const Setting &setting)
 {
     const bool isName = setting.role == PropertyRole::Input || setting.role == PropertyRole::Result;
+    if (setting.facts.purpose == Purpose::SearchText)
+        m_searched.insert(setting.text());
     if (!isName && !setting.operand.isReference)
         return;
     const QString name = isName ? setting.text() : setting.operand.name;
@@ -167,6 +176,63 @@ QVariant TaskFacts::knownValue(const TaskVariable &variable) const
 {
     const bool isKnown = variable.value.isValid() && writers(variable.name).isEmpty();
     return isKnown && !isBlank(variable) ? variable.value : QVariant();
+}
+
+QVariant TaskFacts::valueAt(const OperandText &operand, int step) const
+{
+    if (!operand.isReference) {
+        const auto number = literalNumber(operand.literal);
+        return number ? QVariant(*number) : QVariant(operand.literal);
+    }
+    const TaskVariable *const declared = variable(operand.name);
+    const bool isKnown = declared && operand.path.isEmpty() && declared->value.isValid() &&
+                         !isBlank(*declared) && !writerBefore(operand.name, step);
+    return isKnown ? declared->value : QVariant();
+}
+
+const Setting *TaskFacts::writerBefore(const QString &name, int step) const
+{
+    const QVector<const Setting *> all = writers(name);
+    const auto next =
+        std::lower_bound(all.begin(), all.end(), step,
+                         [](const Setting *writer, int place) { return writer->step < place; });
+    return next == all.begin() ? nullptr : *std::prev(next);
+}
+
+std::optional<QStringList> TaskFacts::textsBehind(const OperandText &operand, int step) const
+{
+    Origins origins;
+    return collectOrigins(operand, step, origins) ? std::optional(origins.texts) : std::nullopt;
+}
+
+bool TaskFacts::collectOrigins(const OperandText &operand, int step, Origins &origins) const
+{
+    // Bounds the depth of the recursion, and the cost for each operand of a long task.
+    constexpr int mostOperands = 50;
+    if (++origins.operands > mostOperands)
+        return false;
+    const QVariant value = valueAt(operand, step);
+    if (value.isValid()) {
+        origins.texts.append(textOfValue(value));
+        return true;
+    }
+    const Setting *const writer = writerBefore(operand.name, step);
+    return writer && operand.path.isEmpty() && collectOriginsOfStep(writer->step, origins);
+}
+
+bool TaskFacts::collectOriginsOfStep(int step, Origins &origins) const
+{
+    for (const Setting &setting : m_steps.at(step)) {
+        // A text that is searched for does not become part of the result.
+        const bool isSource = setting.role == PropertyRole::Text && !isSearchText(setting);
+        if (!setting.isShown || (!isSource && setting.role != PropertyRole::Input))
+            continue;
+        const OperandText operand =
+            isSource ? setting.operand : readOperand(QLatin1Char('$') + setting.text());
+        if (!collectOrigins(operand, step, origins))
+            return false;
+    }
+    return true;
 }
 
 VarType TaskFacts::typeBehind(const OperandText &operand) const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "refhost/engine/FactBook.h"
 #include "refhost/engine/OperandText.h"
 #include "refhost/engine/PropertyRole.h"
 #include "refhost/engine/PropertySchema.h"
@@ -12,6 +13,8 @@
 #include <QString>
 #include <QVariant>
 #include <QVector>
+
+#include <optional>
 
 class OperationCatalog;
 
@@ -43,10 +46,14 @@ struct Setting
     bool isShown = true;
     QVariant value;
     OperandText operand; ///< of a text or a number
+    PropertyFacts facts; ///< of the property
 
     /// The value as it is written.
     QString text() const { return value.toString(); }
 };
+
+/// Whether the step searches for the text, be it to find, to replace, to cut or to split.
+bool isSearchText(const Setting &setting);
 
 /// What a check wants to know about a task: its settings, its variables, and who reads and writes
 /// them. All of it is read from annotations and values; nothing runs.
@@ -54,7 +61,7 @@ class TaskFacts
 {
 public:
     /// The defaults of the properties are those of the catalogue's prototypes.
-    TaskFacts(const Task &task, const OperationCatalog &catalog);
+    TaskFacts(const Task &task, const OperationCatalog &catalog, const FactBook &book);
 
     /// The settings of each step, in the order of its properties.
     const QVector<QVector<Setting>> &steps() const { return m_steps; }
@@ -73,6 +80,23 @@ public:
     /// for its value from outside, so it is not known either.
     QVariant knownValue(const TaskVariable &variable) const;
 
+    /// Returns the value that the operand has in step `step` if that is certain: of a literal, or
+    /// of a variable that no earlier step writes and that has a value. Invalid for any other
+    /// operand.
+    QVariant valueAt(const OperandText &operand, int step) const;
+
+    /// Returns the texts that the text of the operand in step `step` can be made of: its value, or
+    /// the operands of the step that wrote it, and of the steps before that. Nothing if one of them
+    /// is not certain, or if there are many.
+    std::optional<QStringList> textsBehind(const OperandText &operand, int step) const;
+
+    /// Returns the last setting before step `step` that writes its result into the variable; null
+    /// if there is none.
+    const Setting *writerBefore(const QString &name, int step) const;
+
+    /// Whether a text with the purpose `Purpose::SearchText` is this literal.
+    bool isSearchedFor(const QString &literal) const { return m_searched.contains(literal); }
+
     /// The type of what a reference finds; none when it finds nothing, which is certain as far as
     /// the value of the variable is.
     VarType typeBehind(const OperandText &operand) const;
@@ -90,8 +114,17 @@ public:
 private:
     Q_DISABLE_COPY_MOVE(TaskFacts)
 
-    void readSteps(const Task &task, const OperationCatalog &catalog);
+    void readSteps(const Task &task, const OperationCatalog &catalog, const FactBook &book);
     void noteUse(const Setting &setting);
+    /// The texts found so far, and how many operands were followed.
+    struct Origins
+    {
+        QStringList texts;
+        int operands = 0;
+    };
+
+    bool collectOrigins(const OperandText &operand, int step, Origins &origins) const;
+    bool collectOriginsOfStep(int step, Origins &origins) const;
     bool mayHaveColumns(const TaskVariable &variable) const;
 
     QVector<QVector<Setting>> m_steps;
@@ -101,4 +134,5 @@ private:
     QHash<QString, QVector<const Setting *>> m_readers;
     QHash<QString, QVector<const Setting *>> m_writers;
     QSet<QString> m_used;
+    QSet<QString> m_searched;
 };
