@@ -734,5 +734,173 @@
         <source>no translation that can be used; texts of the plug-in stay as they are in its sources</source>
         <translation>翻译文件无法使用；插件的文字保持源代码中的样子</translation>
     </message>
+    <message>
+        <source>%1 gets another value here, between %2 and %3, which both read it</source>
+        <translation>%1 在此被换成别的值，而它前后的%2和%3都读取它</translation>
+    </message>
+    <message>
+        <source>%1 reads this result, not the start value</source>
+        <translation>%1读到的是这个结果，而不是初始值</translation>
+    </message>
+    <message>
+        <source>name another variable here, if %1 needs the start value</source>
+        <translation>如果%1需要的是初始值，此处改用别的变量</translation>
+    </message>
+    <message>
+        <source>the step takes it for a negative number</source>
+        <translation>步骤把它当作负数</translation>
+    </message>
+    <message>
+        <source>%1 counts as a number</source>
+        <translation>%1 会被当作数值</translation>
+    </message>
+    <message>
+        <source>the step goes on with the number %1, with no warning</source>
+        <translation>步骤不给警告，直接以数值 %1 继续</translation>
+    </message>
+    <message>
+        <source>write digits, if another number is meant</source>
+        <translation>如果要的是别的数值，请写数字</translation>
+    </message>
+    <message>
+        <source>%1 is beyond 32 bits</source>
+        <translation>%1 超出 32 位整数的范围</translation>
+    </message>
+    <message>
+        <source>write a number from -2147483648 to 2147483647</source>
+        <translation>改为 -2147483648 到 2147483647 之间的数</translation>
+    </message>
+    <message>
+        <source>%1 is beyond 32 bits, and %2 is declared as %3</source>
+        <translation>%1 超出 32 位整数的范围，而 %2 的类型是%3</translation>
+    </message>
+    <message>
+        <source>another number is stored, with no warning</source>
+        <translation>存入的会是另一个数，而且没有警告</translation>
+    </message>
+    <message>
+        <source>declare %1 as %2</source>
+        <translation>把 %1 的类型改为%2</translation>
+    </message>
+    <message>
+        <source>the step reads no number, as a rule with a warning</source>
+        <translation>步骤得不到数值，通常会给出警告</translation>
+    </message>
+    <message>
+        <source>no separator is given</source>
+        <translation>没有填写分隔符</translation>
+    </message>
+    <message>
+        <source>the text stays in one piece</source>
+        <translation>文本不会被分开</translation>
+    </message>
+    <message>
+        <source>write the text that stands between the pieces</source>
+        <translation>填写各段之间的文本</translation>
+    </message>
+    <message>
+        <source>no marker is given</source>
+        <translation>没有填写标识</translation>
+    </message>
+    <message>
+        <source>an empty marker is found at once, where the search begins</source>
+        <translation>空的标识总在开始查找的位置立即找到</translation>
+    </message>
+    <message>
+        <source>write the text that stands at this place</source>
+        <translation>填写该位置上的文本</translation>
+    </message>
+    <message>
+        <source>no text to search for is given</source>
+        <translation>没有填写要查找的文本</translation>
+    </message>
+    <message>
+        <source>an empty text is found at the start and between all characters</source>
+        <translation>空文本在开头和每两个字符之间都能找到</translation>
+    </message>
+    <message>
+        <source>write the text to search for</source>
+        <translation>填写要查找的文本</translation>
+    </message>
+    <message>
+        <source>%1 is written as a pattern</source>
+        <translation>%1 写成了匹配模式</translation>
+    </message>
+    <message>
+        <source>these characters themselves are searched for: operands have no patterns and no wildcards</source>
+        <translation>查找的就是这些字符本身：操作数不支持正则表达式和通配符</translation>
+    </message>
+    <message>
+        <source>write the text itself; if these characters are meant, leave them</source>
+        <translation>改为文本本身；如果要找的就是这些字符，则不用改</translation>
+    </message>
+    <message>
+        <source>%1 is not in the text, but %2 is</source>
+        <translation>文本中没有 %1，但有 %2</translation>
+    </message>
+    <message>
+        <source>nothing is found: full-width and half-width characters differ</source>
+        <translation>找不到：全角字符和半角字符不同</translation>
+    </message>
+    <message>
+        <source>%1 has a full-width &quot;$&quot;</source>
+        <translation>%1 中的 &quot;$&quot; 是全角的</translation>
+    </message>
+    <message>
+        <source>it is no reference: the text stays as it is</source>
+        <translation>这不是引用，文本原样不变</translation>
+    </message>
+    <message>
+        <source>%1 is %2 if %3 does not find its text</source>
+        <translation>如果%3没有找到，%1 就是 %2</translation>
+    </message>
+    <message>
+        <source>the step starts at %1 then, as if that were a position</source>
+        <translation>这时步骤仍以 %1 作为起始位置</translation>
+    </message>
+    <message>
+        <source>use it for texts that always have what is searched for, or cut at a marker</source>
+        <translation>只用于一定含有所找内容的文本，或改为按标识截取</translation>
+    </message>
+    <message>
+        <source>unknown key; expected %1</source>
+        <translation>未知的键；应为 %1</translation>
+    </message>
+    <message>
+        <source>no purpose for this property</source>
+        <translation>此属性不能有用途</translation>
+    </message>
+    <message>
+        <source>the property with the text searched in</source>
+        <translation>被查找的文本所在的属性</translation>
+    </message>
+    <message>
+        <source>a number, at a numeric operand</source>
+        <translation>数值，且属性为数值操作数</translation>
+    </message>
+    <message>
+        <source>a number, at the result variable</source>
+        <translation>数值，且属性为结果变量</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>对象</translation>
+    </message>
+    <message>
+        <source>the name of a language</source>
+        <translation>语言名称</translation>
+    </message>
+    <message>
+        <source>a marker that the line has, too</source>
+        <translation>该行也有的标记</translation>
+    </message>
+    <message>
+        <source>an array</source>
+        <translation>数组</translation>
+    </message>
+    <message>
+        <source>no such operation; expected %1</source>
+        <translation>没有这个操作；应为 %1</translation>
+    </message>
 </context>
 </TS>

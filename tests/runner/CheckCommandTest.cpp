@@ -24,6 +24,8 @@ private Q_SLOTS:
     void jsonWithoutFindings();
     void refuses_data();
     void refuses();
+    void refusesFacts_data();
+    void refusesFacts();
     void oneLineEach();
     void nothingRuns();
     void otherPlugins();
@@ -46,6 +48,10 @@ const char badTask[] = R"({
     "steps": [{"type": "text.reverse", "sourceText": "x", "resultVar": "line"},
               {"type": "text.append", "sourceText": "$lien", "appendText": "007"}]
 })";
+
+const QString allTypes = "text.append, text.substring, text.pad, text.between, text.trim, "
+                         "text.reverse, text.case, text.toNumber, text.fromNumber, text.join, "
+                         "text.split, text.find, text.replace";
 
 QByteArray readAll(const QString &path)
 {
@@ -184,6 +190,78 @@ void CheckCommandTest::refuses()
     QCOMPARE(outcome.err, "oprun: " + err + '\n');
     QCOMPARE(outcome.out, QString());
     QTEST(outcome.status, "status");
+}
+
+void CheckCommandTest::refusesFacts_data()
+{
+    QTest::addColumn<QByteArray>("facts");
+    QTest::addColumn<QString>("err");
+    const auto row = [](const char *name, const char *facts, const QString &err) {
+        QTest::newRow(name) << QByteArray(facts) << err;
+    };
+    const auto property = [&](const char *name, const char *fact, const QString &err) {
+        row(name, QByteArray(R"({"operations": {"text.pad": )") + fact + "}}",
+            "operations.text.pad" + err);
+    };
+    row("no object", "[]", "line 1, column 1: an array; expected an object in braces");
+    row("unknown key", R"({"operatoins": {}})",
+        "operatoins: unknown key; expected operations, warnings");
+    row("operations no object", R"({"operations": []})", "operations: []; expected an object");
+    row("unknown operation", R"({"operations": {"greet.hello": {}}})",
+        "operations.greet.hello: no such operation; expected " + allTypes);
+    property("operation no object", "5", ": 5; expected an object");
+    property("unknown property", R"({"width": {}})",
+             ".width: unknown key; expected sourceText, position, index, padText, totalLength, "
+             "resultVar");
+    property("property no object", R"({"index": 0})", ".index: 0; expected an object");
+    property("unknown fact", R"({"index": {"default": 0}})",
+             ".index.default: unknown key; expected purpose, searchedIn, whenEmpty, whenNotFound");
+    property("unknown purpose of a number", R"({"index": {"purpose": "begin"}})",
+             ".index.purpose: \"begin\"; expected \"start\"");
+    property("purpose of a number at a text", R"({"padText": {"purpose": "start"}})",
+             ".padText.purpose: \"start\"; expected \"searchText\" or \"marker\" or "
+             "\"separator\" or \"numberText\"");
+    property("purpose of a choice", R"({"position": {"purpose": "start"}})",
+             ".position.purpose: \"start\"; expected no purpose for this property");
+    property("purpose no string", R"({"index": {"purpose": 1}})",
+             ".index.purpose: 1; expected \"start\"");
+    property("searched in nothing", R"({"padText": {"searchedIn": "text"}})",
+             ".padText.searchedIn: \"text\"; expected the property with the text searched in");
+    property("searched in itself", R"({"padText": {"searchedIn": "padText"}})",
+             ".padText.searchedIn: \"padText\"; expected the property with the text searched in");
+    property("default as a text", R"({"index": {"whenEmpty": "0"}})",
+             ".index.whenEmpty: \"0\"; expected a number, at a numeric operand");
+    property("default of a text", R"({"padText": {"whenEmpty": 0}})",
+             ".padText.whenEmpty: 0; expected a number, at a numeric operand");
+    property("result that is none", R"({"index": {"whenNotFound": -1}})",
+             ".index.whenNotFound: -1; expected a number, at the result variable");
+
+    row("warnings no array", R"({"warnings": {}})", "warnings: {}; expected an array");
+    row("warning no object", R"({"warnings": ["x"]})", "warnings[0]: \"x\"; expected an object");
+    row("warning without a line", R"({"warnings": [{"en": "x"}]})",
+        "warnings[0].line: missing; expected a string");
+    row("warning without English", R"({"warnings": [{"line": "x", "zh": "x"}]})",
+        "warnings[0].en: missing; expected a string");
+    row("explanation no string", R"({"warnings": [{"line": "x", "en": 1}]})",
+        "warnings[0].en: 1; expected a string");
+    row("no language", R"({"warnings": [{"line": "x", "en": "x"}, {"line": "x", "English": ""}]})",
+        "warnings[1].English: unknown key; expected line, the name of a language");
+    row("surplus marker", R"({"warnings": [{"line": "x %1", "en": "%1 and %2"}]})",
+        "warnings[0].en: \"%2\"; expected a marker that the line has, too");
+}
+
+void CheckCommandTest::refusesFacts()
+{
+    QFETCH(QByteArray, facts);
+    QFETCH(QString, err);
+    const QString plugin = m_oprun.filePath("libFaulty.so");
+    QFile::copy(PLUGIN_FILE, plugin);
+    QVERIFY(m_oprun.write("libFaulty.facts.json", facts));
+    const OprunFolder::Outcome outcome = m_oprun.run({"check", "clean.json", "--plugin", plugin},
+                                                     {{"LD_LIBRARY_PATH", LIBRARY_FOLDER}});
+    QCOMPARE(outcome.err, "oprun: " + m_oprun.filePath("libFaulty.facts.json") + ": " + err + '\n');
+    QCOMPARE(outcome.out, QString());
+    QCOMPARE(outcome.status, 2);
 }
 
 void CheckCommandTest::oneLineEach()

@@ -19,7 +19,18 @@ LiveCheck::LiveCheck(const TaskDocument &document, const PluginLibrary &library,
     m_timer.setInterval(delayMilliseconds);
     connect(&m_timer, &QTimer::timeout, this, &LiveCheck::update);
     connect(&document, &TaskDocument::changed, &m_timer, qOverload<>(&QTimer::start));
-    connect(&library, &PluginLibrary::reloaded, &m_timer, qOverload<>(&QTimer::start));
+    connect(&library, &PluginLibrary::reloaded, this, [this] {
+        readFacts();
+        m_timer.start();
+    });
+    readFacts();
+}
+
+void LiveCheck::readFacts()
+{
+    // A file that cannot be used leaves what the annotations tell.
+    const Result<FactBook> book = FactBook::read(m_library.catalog());
+    m_facts = book ? book.value() : FactBook();
 }
 
 void LiveCheck::update()
@@ -29,7 +40,7 @@ void LiveCheck::update()
     m_steps.clear();
     for (const StepState &step : state.steps)
         m_steps.append(step.id);
-    m_findings = checkTask(state.toTask(), m_library.catalog());
+    m_findings = checkTask(state.toTask(), m_library.catalog(), m_facts);
     m_findingsOfStep.clear();
     for (const Finding &finding : qAsConst(m_findings)) {
         if (finding.step >= 0)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "refhost/engine/FactBook.h"
 #include "refhost/engine/check/Finding.h"
 
 #include <QHash>
@@ -37,8 +38,11 @@ Q_SIGNALS:
     void updated();
 
 private:
+    void readFacts();
+
     const TaskDocument &m_document;
     const PluginLibrary &m_library;
+    FactBook m_facts; ///< of the plug-ins as they are loaded now
     QTimer m_timer;
     QList<Finding> m_findings;
     QHash<int, QList<Finding>> m_findingsOfStep;
