@@ -62,7 +62,7 @@ std::optional<Problem> OutputFile::write(const QByteArray &bytes)
 {
     if (isStandardOutput())
         return writeToStandardOutput(bytes);
-    constexpr int enough = 65'536;
+    constexpr int enough = 65536;
     m_unwritten += bytes;
     const bool isHeldBack = qobject_cast<QSaveFile *>(m_file.get()) != nullptr;
     return isHeldBack && m_unwritten.size() < enough ? std::nullopt : writeThrough();
