@@ -902,5 +902,9 @@
         <source>no such operation; expected %1</source>
         <translation>没有这个操作；应为 %1</translation>
     </message>
+    <message>
+        <source>%1… (%2 characters)</source>
+        <translation>%1……（共 %2 个字符）</translation>
+    </message>
 </context>
 </TS>
