@@ -2,6 +2,7 @@
 
 #include "refhost/engine/EngineText.h"
 #include "refhost/engine/JsonValue.h"
+#include "refhost/engine/NameIndex.h"
 
 #include <QLocale>
 
@@ -46,10 +47,12 @@ Result<QVariant> choiceFromJson(const QJsonValue &json, const PropertySchema &sc
     } else if (Result<QVariant> number = variantFromJson(json, VarType::Int)) {
         return number;
     }
-    return unfit(
+    Problem problem = unfit(
         json,
         EngineText::tr("one of %1, or the number of a choice").arg(quotedList(schema.choices)),
         Problem::Reason::UnknownChoice);
+    problem.message = withSuggestion(problem.message, nearestName(json.toString(), schema.choices));
+    return problem;
 }
 
 } // namespace

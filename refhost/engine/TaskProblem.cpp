@@ -3,6 +3,7 @@
 #include "refhost/engine/EngineText.h"
 #include "refhost/engine/Excerpt.h"
 #include "refhost/engine/JsonValue.h"
+#include "refhost/engine/NameIndex.h"
 
 QString variablePlace(const QString &name)
 {
@@ -22,26 +23,52 @@ Problem emptyName(const QString &place)
 
 Problem unknownType(const QString &place, const QJsonValue &found, const QStringList &known)
 {
-    const QString expected = listText(known);
+    const QString expected =
+        known.isEmpty() ? EngineText::tr("an operation, but none is loaded") : listText(known);
     if (found.isUndefined()) {
         return {Problem::Reason::MissingKey,
                 {},
                 place,
                 EngineText::tr("missing; expected %1").arg(expected)};
     }
-    return {Problem::Reason::UnknownType,
+    return {
+        Problem::Reason::UnknownType,
+        {},
+        place,
+        withSuggestion(EngineText::tr("%1; expected %2").arg(excerpt(jsonText(found)), expected),
+                       nearestName(found.toString(), known))};
+}
+
+Problem unknownKey(const QString &place, const QString &name, const QStringList &known)
+{
+    return {Problem::Reason::UnknownKey,
             {},
             place,
-            EngineText::tr("%1; expected %2").arg(excerpt(jsonText(found)), expected)};
+            withSuggestion(EngineText::tr("unknown key %1; expected %2")
+                               .arg(excerpt(jsonText(name)), listText(known)),
+                           nearestName(name, known))};
+}
+
+Problem unknownProperty(const QString &place, const QString &name, const QString &typeId,
+                        const QStringList &known)
+{
+    const QString message =
+        known.isEmpty()
+            ? EngineText::tr("%1 has no such property; expected none at all").arg(typeId)
+            : EngineText::tr("%1 has no such property; expected %2").arg(typeId, listText(known));
+    return {
+        Problem::Reason::UnknownKey, {}, place, withSuggestion(message, nearestName(name, known))};
 }
 
 Problem unknownVariable(const QString &place, const QString &name, const QStringList &known)
 {
+    const QString message =
+        known.isEmpty() ? EngineText::tr("the task has no variable %1; expected none at all")
+                              .arg(excerpt(jsonText(name)))
+                        : EngineText::tr("the task has no variable %1; expected %2")
+                              .arg(excerpt(jsonText(name)), listText(known));
     return {Problem::Reason::UnknownVariable,
             {},
             place,
-            known.isEmpty() ? EngineText::tr("the task has no variable %1; expected none at all")
-                                  .arg(excerpt(jsonText(name)))
-                            : EngineText::tr("the task has no variable %1; expected %2")
-                                  .arg(excerpt(jsonText(name)), listText(known))};
+            withSuggestion(message, nearestName(name, known))};
 }

@@ -17,8 +17,18 @@ QString stepPlace(int index);
 /// That a variable at `place` has no name.
 Problem emptyName(const QString &place);
 
+// Of a name that is not known, a problem lists the names that are, and suggests the nearest one.
+
 /// That `found`, at `place`, names none of the `known` types, or is missing.
 Problem unknownType(const QString &place, const QJsonValue &found, const QStringList &known);
+
+/// Returns the problem with the key `name` of the object at `place`, which is none of `known`.
+Problem unknownKey(const QString &place, const QString &name, const QStringList &known);
+
+/// Returns the problem with the property `name`, which the operation `typeId` does not have. Its
+/// properties are `known`.
+Problem unknownProperty(const QString &place, const QString &name, const QString &typeId,
+                        const QStringList &known);
 
 /// That the task, whose variables are `known`, has no variable `name`, which `place` asks for.
 Problem unknownVariable(const QString &place, const QString &name, const QStringList &known);

@@ -18,13 +18,6 @@
 
 namespace {
 
-using Reason = Problem::Reason;
-
-Problem at(const QString &place, Reason reason, const QString &message)
-{
-    return {reason, {}, place, message};
-}
-
 Problem at(const QString &place, Problem problem)
 {
     problem.place = place;
@@ -42,15 +35,12 @@ QString typePlace(const QString &place)
 }
 
 /// The first key of `json` that nobody reads.
-std::optional<Problem> unknownKey(const QJsonObject &json, const QStringList &known,
-                                  const QString &place)
+std::optional<Problem> findUnknownKey(const QJsonObject &json, const QStringList &known,
+                                      const QString &place)
 {
     for (auto member = json.begin(); member != json.end(); ++member) {
-        if (!known.contains(member.key())) {
-            return at(place, Reason::UnknownKey,
-                      EngineText::tr("unknown key %1; expected %2")
-                          .arg(jsonText(member.key()), listText(known)));
-        }
+        if (!known.contains(member.key()))
+            return unknownKey(place, member.key(), known);
     }
     return std::nullopt;
 }
@@ -63,7 +53,7 @@ Result<TaskVariable> readVariable(const QString &name, const QJsonValue &json, c
         return wrongKind(place, json, EngineText::tr("an object with \"type\" and \"value\""));
     const QJsonObject settings = json.toObject();
     const QString valueKey = QStringLiteral("value");
-    if (const auto problem = unknownKey(settings, {typeKey(), valueKey}, place))
+    if (const auto problem = findUnknownKey(settings, {typeKey(), valueKey}, place))
         return *problem;
     const QJsonValue typeWord = settings.value(typeKey());
     TaskVariable variable{name, varTypeFromName(typeWord.toString()), {}};
@@ -104,9 +94,8 @@ std::optional<Problem> applySettings(Operation &step, const QJsonObject &setting
         const QString propertyPlace = place + QLatin1Char('.') + member.key();
         const PropertySchema *const property = schema.property(member.key());
         if (!property) {
-            return at(propertyPlace, Reason::UnknownKey,
-                      EngineText::tr("%1 has no such property; expected %2")
-                          .arg(step.typeId(), listText(schema.propertyNames())));
+            return unknownProperty(propertyPlace, member.key(), step.typeId(),
+                                   schema.propertyNames());
         }
         const Result<QVariant> value = propertyFromJson(member.value(), *property);
         if (!value)
@@ -150,7 +139,7 @@ Result<Task> TaskReader::read(const QJsonObject &json) const
 {
     const QString variablesKey = QStringLiteral("variables");
     const QString stepsKey = QStringLiteral("steps");
-    if (const auto problem = unknownKey(json, {variablesKey, stepsKey}, {}))
+    if (const auto problem = findUnknownKey(json, {variablesKey, stepsKey}, {}))
         return *problem;
     Task task;
     if (const auto problem = readVariables(json.value(variablesKey), variablesKey, task))

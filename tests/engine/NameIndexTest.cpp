@@ -1,7 +1,7 @@
 #include "tests/support/QuietTest.h"
 
-#include "refhost/engine/check/EditDistance.h"
-#include "refhost/engine/check/NameIndex.h"
+#include "refhost/engine/EditDistance.h"
+#include "refhost/engine/NameIndex.h"
 
 #include <QElapsedTimer>
 #include <QRandomGenerator>
@@ -21,6 +21,8 @@ private Q_SLOTS:
     void nearest_data();
     void nearest();
     void nearestOfRandomNames();
+    void suggestions_data();
+    void suggestions();
     void leadingSizes_data();
     void leadingSizes();
     void manyNames();
@@ -181,6 +183,42 @@ void NameIndexTest::nearestOfRandomNames()
             QCOMPARE(index.nearest(name).name, plainNearest(name, declared));
         }
     }
+}
+
+void NameIndexTest::suggestions_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QStringList>("known");
+    QTest::addColumn<QString>("meant");
+    const QStringList types{"text.append", "text.case", "text.trim", "list.append", "plain"};
+    const auto row = [](const QString &name, const QStringList &known, const QString &meant) {
+        QTest::addRow("%s of %d", qPrintable(name), known.size()) << name << known << meant;
+    };
+    row("text.apend", types, "text.append");
+    row("TEXT.Trim", types, "text.trim");
+    row("txt.trim", types, "text.trim");
+    row("plan", types, "plain");
+    row("trim", types, "text.trim");
+    row("Append", types, "text.append");
+    row("text.trim.x", types, "text.trim");
+    // Alike in the common beginning alone.
+    row("text.glue", types, "");
+    row("Text.glue", types, "");
+    row("other.trim", types, "");
+    row("x", types, "");
+    row("", types, "");
+    row("trim", {}, "");
+    row("a%1b", {"a%2b"}, "a%2b");
+}
+
+void NameIndexTest::suggestions()
+{
+    QFETCH(QString, name);
+    QFETCH(QStringList, known);
+    QFETCH(QString, meant);
+    QCOMPARE(nearestName(name, known), meant);
+    const QString question = QString(" (did you mean \"%1\"?)").arg(meant);
+    QCOMPARE(withSuggestion("no %1", meant), "no %1" + (meant.isEmpty() ? QString() : question));
 }
 
 void NameIndexTest::leadingSizes_data()

@@ -2,7 +2,7 @@
 
 #include "refhost/engine/EngineText.h"
 #include "refhost/engine/JsonValue.h"
-#include "refhost/engine/check/NearName.h"
+#include "refhost/engine/NearName.h"
 #include "refhost/engine/check/TaskFacts.h"
 
 Finding findingAt(const Setting &setting, Mistake mistake, Severity severity, const Advice &advice)

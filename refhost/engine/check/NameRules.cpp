@@ -1,7 +1,7 @@
 #include "refhost/engine/check/NameRules.h"
 
 #include "refhost/engine/EngineText.h"
-#include "refhost/engine/check/NameIndex.h"
+#include "refhost/engine/NameIndex.h"
 #include "refhost/engine/check/TaskFacts.h"
 
 namespace {

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "refhost/engine/FactBook.h"
+#include "refhost/engine/NameIndex.h"
 #include "refhost/engine/OperandText.h"
 #include "refhost/engine/PropertyRole.h"
 #include "refhost/engine/PropertySchema.h"
 #include "refhost/engine/Task.h"
-#include "refhost/engine/check/NameIndex.h"
 
 #include <QHash>
 #include <QList>

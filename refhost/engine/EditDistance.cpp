@@ -1,4 +1,4 @@
-#include "refhost/engine/check/EditDistance.h"
+#include "refhost/engine/EditDistance.h"
 
 #include <QVarLengthArray>
 

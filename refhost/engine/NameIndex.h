@@ -1,6 +1,6 @@
 #pragma once
 
-#include "refhost/engine/check/NearName.h"
+#include "refhost/engine/NearName.h"
 
 #include <QHash>
 #include <QString>
@@ -42,3 +42,12 @@ private:
     QHash<QChar, QStringList> m_beginnings;
     mutable QHash<QString, NearName> m_answers;
 };
+
+/// Returns the first of the `known` names that is near enough to `name` to be meant by it, or an
+/// empty text. Where names have sections, such as "text.append", the last section alone may be
+/// given, and names that begin alike are compared by the rest alone.
+QString nearestName(const QString &name, const QStringList &known);
+
+/// Returns `message`, followed by a question for the name `near` unless that is empty:
+/// `... (did you mean "text.append"?)`.
+QString withSuggestion(const QString &message, const QString &near);

@@ -1,6 +1,8 @@
-#include "refhost/engine/check/NameIndex.h"
+#include "refhost/engine/NameIndex.h"
 
-#include "refhost/engine/check/EditDistance.h"
+#include "refhost/engine/EditDistance.h"
+#include "refhost/engine/EngineText.h"
+#include "refhost/engine/JsonValue.h"
 
 #include <QtAlgorithms>
 
@@ -44,6 +46,22 @@ bool beginsWithWord(QStringView text, const QString &word)
         return false;
     return text.size() == word.size() || !continuesWord(word.back()) ||
            !continuesWord(text.at(word.size()));
+}
+
+/// Returns the size of the sections that both names begin with, with the dot behind them.
+int commonSections(const QString &left, const QString &right)
+{
+    const auto isSame = [](QChar one, QChar other) {
+        return one.toCaseFolded() == other.toCaseFolded();
+    };
+    const auto begin = std::mismatch(left.begin(), left.end(), right.begin(), right.end(), isSame);
+    const int same = static_cast<int>(begin.first - left.begin());
+    return left.left(same).lastIndexOf(QLatin1Char('.')) + 1;
+}
+
+QString lastSection(const QString &name)
+{
+    return name.mid(name.lastIndexOf(QLatin1Char('.')) + 1);
 }
 
 bool isBraced(const QString &name)
@@ -132,4 +150,27 @@ int NameIndex::leadingSize(QStringView text) const
             longest = std::max(longest, name.size());
     }
     return longest;
+}
+
+QString nearestName(const QString &name, const QStringList &known)
+{
+    const QString near = NameIndex(known).nearest(name).name;
+    if (!near.isEmpty()) {
+        const int same = commonSections(name, near);
+        const NameIndex rest({near.mid(same)});
+        return rest.nearest(name.mid(same)).name.isEmpty() ? QString() : near;
+    }
+    if (name.contains(QLatin1Char('.')))
+        return {};
+    QStringList sections;
+    for (const QString &candidate : known)
+        sections.append(lastSection(candidate));
+    const QString section = NameIndex(sections).nearest(name).name;
+    return section.isEmpty() ? QString() : known.at(sections.indexOf(section));
+}
+
+QString withSuggestion(const QString &message, const QString &near)
+{
+    return near.isEmpty() ? message
+                          : EngineText::tr("%1 (did you mean %2?)").arg(message, jsonText(near));
 }
