@@ -2,12 +2,15 @@
 
 #include "refhost/engine/EngineText.h"
 #include "refhost/engine/HostRefusal.h"
+#include "refhost/engine/LibraryFile.h"
 
 #include "IOperationPlugin.h"
 #include "Operation.h"
 
 #include <QFileInfo>
 #include <QPluginLoader>
+#include <QSet>
+#include <QtAlgorithms>
 
 namespace {
 
@@ -17,6 +20,28 @@ Problem notLoaded(const QString &path, const QString &reason)
             path,
             {},
             EngineText::tr("cannot be loaded as a plug-in (%1)").arg(reason)};
+}
+
+/// Returns what is wrong with the list of a plug-in's prototypes, empty when nothing is.
+QString faultOf(const QList<Operation *> &prototypes)
+{
+    if (prototypes.isEmpty())
+        return EngineText::tr("createPrototypes returns no operation; expected at least one");
+    for (int i = 0; i < prototypes.size(); ++i) {
+        if (!prototypes.at(i)) {
+            return EngineText::tr("createPrototypes returns a null pointer at %1; "
+                                  "expected an operation")
+                .arg(i);
+        }
+        const int first = prototypes.indexOf(prototypes.at(i));
+        if (first < i) {
+            return EngineText::tr("createPrototypes returns the same object at %1 and at %2; "
+                                  "expected two objects")
+                .arg(first)
+                .arg(i);
+        }
+    }
+    return {};
 }
 
 } // namespace
@@ -29,8 +54,9 @@ LoadedPlugin &LoadedPlugin::operator=(LoadedPlugin &&other) noexcept = default;
 Result<LoadedPlugin> LoadedPlugin::load(const QString &path, const QString &original)
 {
     const QString name = original.isEmpty() ? path : original;
-    if (!QFileInfo(path).isFile())
-        return notLoaded(name, EngineText::tr("there is no such file"));
+    const QString unfit = unfitLibraryReason(path);
+    if (!unfit.isEmpty())
+        return notLoaded(name, unfit);
     // Qt would look for a relative path in its own plug-in folders, not here.
     const QString file = QFileInfo(path).absoluteFilePath();
     QPluginLoader loader(file);
@@ -50,9 +76,13 @@ Result<LoadedPlugin> LoadedPlugin::load(const QString &path, const QString &orig
     loaded.m_path = name;
     loaded.m_manifest = plugin->manifest();
     const QList<Operation *> prototypes = plugin->createPrototypes();
-    for (Operation *prototype : prototypes) {
-        if (prototype)
-            loaded.m_prototypes.emplace_back(prototype);
+    const QString fault = faultOf(prototypes);
+    const QSet<Operation *> distinct(prototypes.cbegin(), prototypes.cend());
+    if (!fault.isEmpty()) {
+        qDeleteAll(distinct);
+        return notLoaded(name, fault);
     }
+    for (Operation *prototype : prototypes)
+        loaded.m_prototypes.emplace_back(prototype);
     return loaded;
 }

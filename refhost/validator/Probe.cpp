@@ -1,5 +1,6 @@
 #include "refhost/validator/Probe.h"
 
+#include "refhost/engine/ProgramArguments.h"
 #include "refhost/validator/CheckContext.h"
 #include "refhost/validator/CheckList.h"
 
@@ -114,14 +115,6 @@ bool writeOutcome(const Outcome &outcome, const QString &resultFile)
     std::_Exit(written ? EXIT_SUCCESS : usageStatus);
 }
 
-QStringList argumentList(int argc, char *argv[])
-{
-    QStringList arguments;
-    for (int i = 0; i < argc; ++i)
-        arguments.append(QString::fromLocal8Bit(argv[i]));
-    return arguments;
-}
-
 int usageError(const QString &message)
 {
     print(QStringLiteral("oprun-probe: %1\n").arg(message).toUtf8(), stderr);
@@ -134,7 +127,10 @@ int runProbe(int argc, char *argv[])
 {
     QCommandLineParser parser;
     parser.addOptions({listOption(), seedOption(), resultOption(), progressOption(), keepOption()});
-    if (!parser.parse(argumentList(argc, argv)))
+    const Result<QStringList> given = programArguments(argc, argv);
+    if (!given)
+        return usageError(given.problem().toString());
+    if (!parser.parse(given.value()))
         return usageError(parser.errorText());
     if (parser.isSet(listOption())) {
         printChecks();

@@ -47,8 +47,8 @@ void OperationCatalogTest::failures_data()
     QTest::addColumn<QString>("reason");
     QTest::newRow("no file") << "/nowhere/libX.so"
                              << "there is no such file";
-    QTest::newRow("folder") << QFileInfo(PLUGIN_FILE).path() << "there is no such file";
-    QTest::newRow("no library") << SOURCE_FILE << "is not an ELF object";
+    QTest::newRow("folder") << QFileInfo(PLUGIN_FILE).path() << "it is a folder; expected a file";
+    QTest::newRow("no library") << SOURCE_FILE << "it is not a library";
 }
 
 void OperationCatalogTest::failures()

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "refhost/engine/Result.h"
+
+#include <QStringList>
+
+/// Returns the arguments of `main`, the name of the program first. On Unix, where arguments are
+/// bytes, a problem names the first one that is not valid UTF-8: with bytes replaced, it would name
+/// another file. Elsewhere the arguments are those of the application, if there is one.
+Result<QStringList> programArguments(int argc, char *argv[]);
