@@ -1806,5 +1806,13 @@ The packed format can.</translation>
         <source>没有给出要打开的任务。</source>
         <translation>No task to open is given.</translation>
     </message>
+    <message>
+        <source>没有选项“%1”；是否指“%2”？</source>
+        <translation>There is no option &quot;%1&quot;; did you mean &quot;%2&quot;?</translation>
+    </message>
+    <message>
+        <source>选项“%1”给出了 %2 次；应只给一次。</source>
+        <translation>The option &quot;%1&quot; is given %2 times; give it once.</translation>
+    </message>
 </context>
 </TS>

@@ -46,6 +46,7 @@ private Q_SLOTS:
     void answersWithoutAScreen();
     void complainsInOneLine_data();
     void complainsInOneLine();
+    void refusesNamesThatAreNotUtf8();
     void drawsTheWindow_data();
     void drawsTheWindow();
     void drawsALook();
@@ -124,6 +125,14 @@ void WorkbenchOptionsTest::refusesWhatMakesNoSense_data()
         QTest::newRow(name) << arguments << QString::fromUtf8(words);
     };
     row("unknown option", {"--nix"}, "没有选项“nix”");
+    row("near option", {"--stpe", "1", "a"}, "没有选项“stpe”；是否指“step”？");
+    row("two steps", {"--step", "1", "--step=2", "a"}, "选项“step”给出了 2 次；应只给一次。");
+    row("two languages", {"--lang", "zh", "--lang", "en"}, "选项“lang”给出了 2 次");
+    row("two styles", {"--style", "dark", "--style", "dark"}, "选项“style”给出了 2 次");
+    row("two steps to pause at", {"--pause-at", "1", "--pause-at", "2", "a"},
+        "“pause-at”给出了 2 次");
+    row("two pictures", {"--screenshot", "a", "--screenshot", "b"}, "“screenshot”给出了 2 次");
+    row("two sizes", {"--screenshot", "a", "--size", "1x1", "--size", "2x2"}, "“size”给出了 2 次");
     row("missing value", {"--plugin"}, "plugin");
     row("two tasks", {"a", "b"}, "2 个任务");
     row("unknown style", {"--style", "nix"}, "没有外观“nix”；可用的有 light, dark");
@@ -218,6 +227,19 @@ void WorkbenchOptionsTest::complainsInOneLine()
     QVERIFY2(outcome.err.contains(words), qPrintable(outcome.err));
     QCOMPARE(outcome.err.count('\n'), 1);
     QVERIFY(!QFileInfo::exists(path("a.png")));
+}
+
+void WorkbenchOptionsTest::refusesNamesThatAreNotUtf8()
+{
+    const OprunOutcome outcome = runProgram(
+        "/bin/sh", {"-c", "$PROGRAM --lang en --screenshot \"$(printf 'a\\377')\" " + m_task},
+        m_folder->path(), {{"PROGRAM", OPWORKBENCH_FILE}, {"QT_QPA_PLATFORM", "offscreen"}});
+    QCOMPARE(outcome.err,
+             QString("opworkbench: argument 4: \"a\\xff\" is not UTF-8; expected UTF-8\n"));
+    QCOMPARE(outcome.status, 2);
+    QCOMPARE(
+        QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::System),
+        QStringList());
 }
 
 void WorkbenchOptionsTest::drawsTheWindow_data()

@@ -2,6 +2,7 @@
 
 #include "refhost/engine/OutputFile.h"
 #include "refhost/engine/PluginFolder.h"
+#include "refhost/engine/ProgramArguments.h"
 #include "refhost/workbench/files/FileActions.h"
 #include "refhost/workbench/look/Appearance.h"
 #include "refhost/workbench/look/Language.h"
@@ -47,9 +48,13 @@ int print(const QString &text)
 std::optional<int> readCommandLine(int argc, char *argv[], WorkbenchOptions &options)
 {
     const QCoreApplication application(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments();
-    installLanguage(WorkbenchOptions::languageIn(arguments));
-    const Result<WorkbenchOptions> parsed = WorkbenchOptions::parse(arguments);
+    const Result<QStringList> arguments = programArguments(argc, argv);
+    installLanguage(WorkbenchOptions::languageIn(QCoreApplication::arguments()));
+    if (!arguments) {
+        complain(arguments.problem().toString());
+        return statusOf(WorkbenchStatus::BadUsage);
+    }
+    const Result<WorkbenchOptions> parsed = WorkbenchOptions::parse(arguments.value());
     if (!parsed) {
         complain(QCoreApplication::translate("Program", "%1用法见 opworkbench --help。")
                      .arg(parsed.problem().toString()));

@@ -1,5 +1,6 @@
 #include "refhost/workbench/options/WorkbenchOptions.h"
 
+#include "refhost/engine/NameIndex.h"
 #include "refhost/workbench/look/Appearance.h"
 #include "refhost/workbench/look/Language.h"
 #include "refhost/workbench/look/Remembered.h"
@@ -55,6 +56,22 @@ QString helpName()
 QString versionName()
 {
     return QStringLiteral("version");
+}
+
+/// The options with a value of which only one has a meaning.
+QStringList singleOptions()
+{
+    return {styleName(), languageName(), stepName(), pauseName(), screenshotName(), sizeName()};
+}
+
+QStringList repeatableOptions()
+{
+    return {pluginName()};
+}
+
+QStringList flags()
+{
+    return {runName(), helpName(), versionName()};
 }
 
 QString choices(const QStringList &names)
@@ -123,14 +140,36 @@ Result<WorkbenchOptions> WorkbenchOptions::parse(const QStringList &arguments)
     addOptions(parser);
     const bool understood = parser.parse(arguments);
     if (!parser.unknownOptionNames().isEmpty())
-        return usage(tr("没有选项“%1”。").arg(parser.unknownOptionNames().constFirst()));
+        return usage(unknownOption(parser.unknownOptionNames().constFirst()));
     if (!understood)
         return usage(parser.errorText());
+    if (const auto problem = findRepeatedOption(parser))
+        return *problem;
     WorkbenchOptions options;
     options.language = languageIn(arguments);
     if (const auto problem = options.read(parser))
         return *problem;
     return options;
+}
+
+QString WorkbenchOptions::unknownOption(const QString &name)
+{
+    const QString near = nearestName(name, singleOptions() + repeatableOptions() + flags());
+    return near.isEmpty() ? tr("没有选项“%1”。").arg(name)
+                          : tr("没有选项“%1”；是否指“%2”？").arg(name, near);
+}
+
+std::optional<Problem> WorkbenchOptions::findRepeatedOption(const QCommandLineParser &parser)
+{
+    const QStringList names = singleOptions();
+    for (const QString &name : names) {
+        const QStringList values = parser.values(name);
+        if (values.size() > 1) {
+            return usage(
+                tr("选项“%1”给出了 %2 次；应只给一次。").arg(name, QString::number(values.size())));
+        }
+    }
+    return std::nullopt;
 }
 
 std::optional<Problem> WorkbenchOptions::read(const QCommandLineParser &parser)

@@ -42,6 +42,8 @@ public:
 
 private:
     static void addOptions(QCommandLineParser &parser);
+    static QString unknownOption(const QString &name);
+    static std::optional<Problem> findRepeatedOption(const QCommandLineParser &parser);
     std::optional<Problem> readSize(const QCommandLineParser &parser);
     std::optional<Problem> readSteps(const QCommandLineParser &parser);
     std::optional<Problem> readNames(const QCommandLineParser &parser);
