@@ -68,9 +68,9 @@ QString CatalogCommand::example() const
     return QStringLiteral("oprun catalog --json");
 }
 
-void CatalogCommand::addOptions(QCommandLineParser &parser) const
+QList<QCommandLineOption> CatalogCommand::options() const
 {
-    parser.addOption(Options::json());
+    return {Options::json()};
 }
 
 bool CatalogCommand::isForPrograms(const QCommandLineParser &options) const

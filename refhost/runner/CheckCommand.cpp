@@ -1,11 +1,11 @@
 #include "refhost/runner/CheckCommand.h"
 
-#include "refhost/engine/TaskReader.h"
 #include "refhost/engine/check/TaskCheck.h"
 #include "refhost/runner/Console.h"
 #include "refhost/runner/ExitStatus.h"
 #include "refhost/runner/OneLine.h"
 #include "refhost/runner/Options.h"
+#include "refhost/runner/TaskFile.h"
 
 #include "Operation.h"
 
@@ -104,15 +104,15 @@ QStringList CheckCommand::arguments() const
     return {QStringLiteral("TASK")};
 }
 
-void CheckCommand::addOptions(QCommandLineParser &parser) const
+QList<QCommandLineOption> CheckCommand::options() const
 {
-    parser.addOption(Options::json());
+    return {Options::json()};
 }
 
 int CheckCommand::runWith(const OperationCatalog &catalog, const QCommandLineParser &options,
                           const QStringList &arguments, Console &console) const
 {
-    const Result<Task> task = TaskReader(catalog).readFile(arguments.first());
+    const Result<Task> task = readTask(arguments.first(), catalog);
     if (!task) {
         console.complain(task.problem().toString());
         return BadInput;

@@ -10,7 +10,7 @@ public:
     QString summary() const override;
     QString example() const override;
     QStringList arguments() const override;
-    void addOptions(QCommandLineParser &parser) const override;
+    QList<QCommandLineOption> options() const override;
 
 protected:
     int runWith(const OperationCatalog &catalog, const QCommandLineParser &options,

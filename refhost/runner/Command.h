@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QCommandLineOption>
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -22,8 +24,8 @@ public:
     /// The arguments it expects after its name, as the help shows them; those in square brackets
     /// may be left out, and the last may be repeated when it ends in "...".
     virtual QStringList arguments() const { return {}; }
-    /// Adds the options that only this command has.
-    virtual void addOptions(QCommandLineParser &parser) const;
+    /// The options that only this command has.
+    virtual QList<QCommandLineOption> options() const { return {}; }
 
     /// Does the work. `arguments` are as many as `arguments()` allows. Returns the exit status.
     virtual int run(const QCommandLineParser &options, const QStringList &arguments,

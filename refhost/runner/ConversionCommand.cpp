@@ -1,10 +1,10 @@
 #include "refhost/runner/ConversionCommand.h"
 
 #include "refhost/engine/FileBytes.h"
-#include "refhost/engine/TaskReader.h"
 #include "refhost/runner/Console.h"
 #include "refhost/runner/ExitStatus.h"
 #include "refhost/runner/FileRoles.h"
+#include "refhost/runner/TaskFile.h"
 
 namespace {
 
@@ -35,13 +35,13 @@ int ConversionCommand::runWith(const OperationCatalog &catalog, const QCommandLi
 {
     Q_UNUSED(options)
     const QString &in = arguments.at(0);
-    const Result<Task> task = TaskReader(catalog).readFile(in);
+    const Result<Task> task = readTask(in, catalog);
     if (!task)
         return complain(task.problem(), console);
     const Result<QByteArray> bytes = convert(task.value(), catalog);
     if (!bytes) {
         Problem problem = bytes.problem();
-        problem.file = in;
+        problem.file = taskName(in);
         return complain(problem, console);
     }
     if (const auto problem = writeFileBytes(arguments.at(1), bytes.value()))

@@ -90,9 +90,9 @@ QStringList DescribeCommand::arguments() const
     return {QStringLiteral("TYPE")};
 }
 
-void DescribeCommand::addOptions(QCommandLineParser &parser) const
+QList<QCommandLineOption> DescribeCommand::options() const
 {
-    parser.addOption(Options::json());
+    return {Options::json()};
 }
 
 bool DescribeCommand::isForPrograms(const QCommandLineParser &options) const

@@ -127,9 +127,9 @@ QString DocsCommand::example() const
     return QStringLiteral("oprun docs > operations.md");
 }
 
-void DocsCommand::addOptions(QCommandLineParser &parser) const
+QList<QCommandLineOption> DocsCommand::options() const
 {
-    parser.addOption(iconsOption());
+    return {iconsOption()};
 }
 
 bool DocsCommand::isForPrograms(const QCommandLineParser &options) const

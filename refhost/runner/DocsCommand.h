@@ -9,7 +9,7 @@ public:
     QString name() const override;
     QString summary() const override;
     QString example() const override;
-    void addOptions(QCommandLineParser &parser) const override;
+    QList<QCommandLineOption> options() const override;
 
 protected:
     bool isForPrograms(const QCommandLineParser &options) const override;

@@ -96,9 +96,9 @@ QStringList ExamplesCommand::arguments() const
     return {QStringLiteral("[TYPE]")};
 }
 
-void ExamplesCommand::addOptions(QCommandLineParser &parser) const
+QList<QCommandLineOption> ExamplesCommand::options() const
 {
-    parser.addOption(checkOption());
+    return {checkOption()};
 }
 
 int ExamplesCommand::runWith(const OperationCatalog &catalog, const QCommandLineParser &options,

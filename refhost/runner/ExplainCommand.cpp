@@ -1,9 +1,9 @@
 #include "refhost/runner/ExplainCommand.h"
 
-#include "refhost/engine/TaskReader.h"
 #include "refhost/runner/Console.h"
 #include "refhost/runner/ExitStatus.h"
 #include "refhost/runner/OneLine.h"
+#include "refhost/runner/TaskFile.h"
 
 #include "Operation.h"
 
@@ -31,7 +31,7 @@ int ExplainCommand::runWith(const OperationCatalog &catalog, const QCommandLineP
                             const QStringList &arguments, Console &console) const
 {
     Q_UNUSED(options)
-    const Result<Task> task = TaskReader(catalog).readFile(arguments.first());
+    const Result<Task> task = readTask(arguments.first(), catalog);
     if (!task) {
         console.complain(task.problem().toString());
         return BadInput;

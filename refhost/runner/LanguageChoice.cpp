@@ -1,9 +1,12 @@
 #include "refhost/runner/LanguageChoice.h"
 
+#include "refhost/engine/EngineText.h"
 #include "refhost/engine/JsonValue.h"
 #include "refhost/engine/LanguageName.h"
+#include "refhost/engine/NameIndex.h"
 #include "refhost/runner/Console.h"
 #include "refhost/runner/Options.h"
+#include "refhost/runner/RunnerText.h"
 
 #include <QCommandLineParser>
 
@@ -46,11 +49,13 @@ Result<QStringList> languagesNamed(const QCommandLineParser &options, const QStr
     const QStringList known = knownLanguages(plugins);
     if (isKnown(language, known))
         return QStringList(language);
-    return Problem{Problem::Reason::UnfitValue,
-                   {},
-                   {},
-                   QStringLiteral("no language %1; expected %2")
-                       .arg(jsonText(language), known.join(QLatin1String(", ")))};
+    return Problem{
+        Problem::Reason::UnfitValue,
+        {},
+        {},
+        withSuggestion(
+            RunnerText::tr("no language %1; expected %2").arg(jsonText(language), listText(known)),
+            nearestName(language, known))};
 }
 
 std::vector<PluginTranslation> translate(const QStringList &plugins, const QStringList &languages,

@@ -1,5 +1,7 @@
 #include "refhost/runner/Oprun.h"
 
+#include "refhost/engine/JsonValue.h"
+#include "refhost/engine/NameIndex.h"
 #include "refhost/runner/CatalogCommand.h"
 #include "refhost/runner/CheckCommand.h"
 #include "refhost/runner/Console.h"
@@ -8,9 +10,11 @@
 #include "refhost/runner/ExamplesCommand.h"
 #include "refhost/runner/ExitStatus.h"
 #include "refhost/runner/ExplainCommand.h"
+#include "refhost/runner/OptionMisuse.h"
 #include "refhost/runner/Options.h"
 #include "refhost/runner/PackCommand.h"
 #include "refhost/runner/RunCommand.h"
+#include "refhost/runner/RunnerText.h"
 #include "refhost/runner/UnpackCommand.h"
 #include "refhost/runner/ValidateCommand.h"
 #include "refhost/runner/Versions.h"
@@ -27,6 +31,21 @@ namespace {
 
 using Commands = std::vector<std::unique_ptr<Command>>;
 
+/// "oprun help [COMMAND]": the same as "oprun --help" and "oprun COMMAND --help".
+class HelpCommand : public Command
+{
+public:
+    QString name() const override { return QStringLiteral("help"); }
+    QString summary() const override
+    {
+        return QStringLiteral("Prints what --help prints, for the program or for a command.");
+    }
+    QString example() const override { return QStringLiteral("oprun help run"); }
+    QStringList arguments() const override { return {QStringLiteral("[COMMAND]")}; }
+    int run(const QCommandLineParser &options, const QStringList &arguments,
+            Console &console) const override;
+};
+
 Commands allCommands()
 {
     Commands commands;
@@ -40,6 +59,7 @@ Commands allCommands()
     commands.push_back(std::make_unique<ExamplesCommand>());
     commands.push_back(std::make_unique<DocsCommand>());
     commands.push_back(std::make_unique<ValidateCommand>());
+    commands.push_back(std::make_unique<HelpCommand>());
     return commands;
 }
 
@@ -51,6 +71,24 @@ QStringList commandNames(const Commands &commands)
     return names;
 }
 
+/// Returns the command called `name`, null when there is none.
+const Command *findCommand(const Commands &commands, const QString &name)
+{
+    const auto found = std::find_if(commands.cbegin(), commands.cend(),
+                                    [&](const auto &command) { return command->name() == name; });
+    return found == commands.cend() ? nullptr : found->get();
+}
+
+/// Returns the first command that one of the words names, null when there is none.
+const Command *firstCommand(const Commands &commands, const QStringList &words)
+{
+    for (const QString &word : words) {
+        if (const Command *const command = findCommand(commands, word))
+            return command;
+    }
+    return nullptr;
+}
+
 QString overview(const Commands &commands)
 {
     QString text = QStringLiteral("Runs tasks of a desktop automation host on its plug-ins.\n\n"
@@ -60,7 +98,32 @@ QString overview(const Commands &commands)
     return text + QStringLiteral("\n\"oprun COMMAND --help\" tells about one of them.");
 }
 
-/// Whether the command takes that many arguments.
+/// Prepares the parser for a command line without a command.
+void prepare(QCommandLineParser &parser, const Commands &commands)
+{
+    parser.setApplicationDescription(overview(commands));
+    parser.addOptions(Options::common());
+    parser.addPositionalArgument(QStringLiteral("COMMAND"),
+                                 commandNames(commands).join(QLatin1String(", ")));
+}
+
+QList<QCommandLineOption> optionsOf(const Command &command)
+{
+    return Options::common() + command.options();
+}
+
+/// Prepares the parser for a command line with the command.
+void prepare(QCommandLineParser &parser, const Command &command)
+{
+    parser.setApplicationDescription(
+        QStringLiteral("%1\n\nExample:\n  %2").arg(command.summary(), command.example()));
+    parser.addPositionalArgument(command.name(), command.summary());
+    for (const QString &argument : command.arguments())
+        parser.addPositionalArgument(argument, QString());
+    parser.addOptions(optionsOf(command));
+}
+
+/// Returns whether the command takes that many arguments.
 bool takes(const Command &command, int count)
 {
     const QStringList all = command.arguments();
@@ -90,32 +153,65 @@ std::optional<int> answerQuestion(const QCommandLineParser &parser)
     return console.flush() ? status : BadInput;
 }
 
-int usageError(const Console &console, const QString &message)
+/// Prints the message, and the command line that prints the help text of the command, or that of
+/// the program when `command` is null. Returns the exit status.
+int usageError(const Console &console, const QString &message, const Command *command = nullptr)
 {
-    console.complain(message + QStringLiteral(" Try \"oprun --help\"."));
+    const QString help = command ? QStringLiteral("oprun %1 --help").arg(command->name())
+                                 : QStringLiteral("oprun --help");
+    console.complain(RunnerText::tr("%1. Try \"%2\".").arg(message, help));
     return BadInput;
 }
 
-int runCommand(const Command &command, QCommandLineParser &parser, const QStringList &arguments)
+QString place(const Command &command, const QString &message)
+{
+    return QStringLiteral("%1: %2").arg(command.name(), message);
+}
+
+QString unknownCommand(const QString &name, const Commands &commands)
+{
+    const QStringList names = commandNames(commands);
+    const QString found = name.isEmpty() ? RunnerText::tr("no command")
+                                         : RunnerText::tr("no command %1").arg(jsonText(name));
+    return withSuggestion(
+        RunnerText::tr("%1; expected %2").arg(found, names.join(QLatin1String(", "))),
+        nearestName(name, names));
+}
+
+int HelpCommand::run(const QCommandLineParser &options, const QStringList &arguments,
+                     Console &console) const
+{
+    Q_UNUSED(options)
+    const Commands commands = allCommands();
+    const Command *const command = findCommand(commands, arguments.value(0));
+    if (!arguments.isEmpty() && !command)
+        return usageError(console, unknownCommand(arguments.first(), commands));
+    QCommandLineParser parser;
+    if (command)
+        prepare(parser, *command);
+    else
+        prepare(parser, commands);
+    console.print(parser.helpText().trimmed());
+    return Success;
+}
+
+int runCommand(const Command &command, const QStringList &arguments)
 {
     Console console;
-    parser.clearPositionalArguments();
-    parser.setApplicationDescription(
-        QStringLiteral("%1\n\nExample:\n  %2").arg(command.summary(), command.example()));
-    parser.addPositionalArgument(command.name(), command.summary());
-    for (const QString &argument : command.arguments())
-        parser.addPositionalArgument(argument, QString());
-    command.addOptions(parser);
-    if (!parser.parse(arguments))
-        return usageError(console, parser.errorText());
+    QCommandLineParser parser;
+    prepare(parser, command);
+    parser.parse(arguments);
+    const QString misuse = optionMisuse(parser, optionsOf(command), arguments);
+    if (!misuse.isEmpty())
+        return usageError(console, place(command, misuse), &command);
     if (const auto status = answerQuestion(parser))
         return *status;
     const QStringList given = parser.positionalArguments().mid(1);
     if (!takes(command, given.size())) {
-        return usageError(console,
-                          QStringLiteral("%1: %2; expected %3.")
-                              .arg(command.name(), listOr(given, QStringLiteral("no argument")),
-                                   listOr(command.arguments(), QStringLiteral("none"))));
+        const QString message = RunnerText::tr("%1; expected %2")
+                                    .arg(listOr(given, RunnerText::tr("no argument")),
+                                         listOr(command.arguments(), RunnerText::tr("none")));
+        return usageError(console, place(command, message), &command);
     }
     int status = BadInput;
     try {
@@ -134,27 +230,22 @@ int runOprun(const QStringList &arguments)
     const Console console;
     const Commands commands = allCommands();
     QCommandLineParser parser;
-    parser.setApplicationDescription(overview(commands));
-    parser.addOptions(
-        {Options::help(), Options::version(), Options::plugin(), Options::language()});
-    parser.addPositionalArgument(QStringLiteral("COMMAND"),
-                                 commandNames(commands).join(QLatin1String(", ")));
-
+    prepare(parser, commands);
     // The options of the command are not known yet; an unknown one counts only without a command.
-    const bool understood = parser.parse(arguments);
-    const QString name = parser.positionalArguments().value(0);
-    for (const auto &command : commands) {
-        if (command->name() == name)
-            return runCommand(*command, parser, arguments);
+    parser.parse(arguments);
+    const QStringList given = parser.positionalArguments();
+    if (const Command *const command = findCommand(commands, given.value(0)))
+        return runCommand(*command, arguments);
+    const Command *const meant = firstCommand(commands, given);
+    const QList<QCommandLineOption> known = meant ? optionsOf(*meant) : Options::common();
+    const QString misuse = optionMisuse(parser, known, arguments);
+    if (!parser.unknownOptionNames().isEmpty()) {
+        return usageError(console, RunnerText::tr("%1; options of a command follow it").arg(misuse),
+                          meant);
     }
-    if (!understood)
-        return usageError(console,
-                          parser.errorText() + QStringLiteral(" Options of a command follow it."));
+    if (!misuse.isEmpty())
+        return usageError(console, misuse);
     if (const auto status = answerQuestion(parser))
         return *status;
-    return usageError(console,
-                      QStringLiteral("%1; expected %2.")
-                          .arg(name.isEmpty() ? QStringLiteral("no command")
-                                              : QStringLiteral("no command \"%1\"").arg(name),
-                               commandNames(commands).join(QLatin1String(", "))));
+    return usageError(console, unknownCommand(given.value(0), commands));
 }

@@ -31,3 +31,15 @@ QCommandLineOption Options::plugin()
             QStringLiteral("Load this plug-in instead of those beside the program; repeatable."),
             QStringLiteral("FILE")};
 }
+
+QList<QCommandLineOption> Options::common()
+{
+    return {help(), version(), plugin(), language()};
+}
+
+bool Options::isRepeatable(const QCommandLineOption &option)
+{
+    const QStringList repeatable{QStringLiteral("plugin"), QStringLiteral("set"),
+                                 QStringLiteral("print"), QStringLiteral("only")};
+    return repeatable.contains(option.names().constFirst());
+}

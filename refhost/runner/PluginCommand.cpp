@@ -1,12 +1,15 @@
 #include "refhost/runner/PluginCommand.h"
 
+#include "refhost/engine/EngineText.h"
 #include "refhost/engine/JsonValue.h"
+#include "refhost/engine/NameIndex.h"
 #include "refhost/engine/OperationCatalog.h"
 #include "refhost/runner/Console.h"
 #include "refhost/runner/ExitStatus.h"
 #include "refhost/runner/FileRoles.h"
 #include "refhost/runner/LanguageChoice.h"
 #include "refhost/runner/PluginChoice.h"
+#include "refhost/runner/RunnerText.h"
 
 int PluginCommand::run(const QCommandLineParser &options, const QStringList &arguments,
                        Console &console) const
@@ -59,8 +62,10 @@ const CatalogEntry *PluginCommand::findOrComplain(const OperationCatalog &catalo
 {
     const CatalogEntry *const entry = catalog.find(typeId);
     if (!entry) {
-        console.complain(QStringLiteral("no operation %1; expected %2")
-                             .arg(jsonText(typeId), catalog.typeIds().join(QLatin1String(", "))));
+        const QStringList known = catalog.typeIds();
+        const QString message =
+            RunnerText::tr("no operation %1; expected %2").arg(jsonText(typeId), listText(known));
+        console.complain(withSuggestion(message, nearestName(typeId, known)));
     }
     return entry;
 }

@@ -1,7 +1,6 @@
 #include "refhost/runner/RunCommand.h"
 
 #include "refhost/engine/JsonValue.h"
-#include "refhost/engine/TaskReader.h"
 #include "refhost/engine/TaskRunner.h"
 #include "refhost/runner/Console.h"
 #include "refhost/runner/ExitStatus.h"
@@ -10,7 +9,9 @@
 #include "refhost/runner/Options.h"
 #include "refhost/runner/RepeatedLines.h"
 #include "refhost/runner/RunOptions.h"
+#include "refhost/runner/RunnerText.h"
 #include "refhost/runner/StepTrace.h"
+#include "refhost/runner/TaskFile.h"
 #include "refhost/runner/rows/RowRun.h"
 
 #include "Operation.h"
@@ -78,6 +79,20 @@ int runOnce(const Task &task, const QCommandLineParser &options, const QString &
     return warned && options.isSet(RunOptions::strict()) ? Warned : Success;
 }
 
+/// Returns a problem when both the task and the rows are to come from standard input.
+std::optional<Problem> findSharedInput(const QCommandLineParser &options, const QString &task)
+{
+    const QString rows =
+        options.isSet(RunOptions::each()) ? options.value(RunOptions::each()) : QStringLiteral("-");
+    if (!RunOptions::asksForRows(options) || !isStandardInput(task) || !isStandardInput(rows))
+        return std::nullopt;
+    return Problem{Problem::Reason::UnfitValue,
+                   {},
+                   {},
+                   RunnerText::tr("standard input cannot be both the task and the rows; expected "
+                                  "a file for one of them")};
+}
+
 int runOnRows(const Task &task, const QCommandLineParser &options, const Console &console)
 {
     const Result<RowRun> run = rowRunFromOptions(options, task);
@@ -109,9 +124,9 @@ QStringList RunCommand::arguments() const
     return {QStringLiteral("TASK")};
 }
 
-void RunCommand::addOptions(QCommandLineParser &parser) const
+QList<QCommandLineOption> RunCommand::options() const
 {
-    parser.addOptions(RunOptions::all());
+    return RunOptions::all();
 }
 
 QList<FileRole> RunCommand::files(const QCommandLineParser &options,
@@ -125,7 +140,11 @@ int RunCommand::runWith(const OperationCatalog &catalog, const QCommandLineParse
                         const QStringList &arguments, Console &console) const
 {
     const QString &file = arguments.first();
-    Result<Task> task = TaskReader(catalog).readFile(file);
+    if (const auto problem = findSharedInput(options, file)) {
+        console.complain(problem->toString());
+        return BadInput;
+    }
+    Result<Task> task = readTask(file, catalog);
     if (!task) {
         console.complain(task.problem().toString());
         return BadInput;
@@ -136,5 +155,5 @@ int RunCommand::runWith(const OperationCatalog &catalog, const QCommandLineParse
     }
     if (RunOptions::asksForRows(options))
         return runOnRows(task.value(), options, console);
-    return runOnce(task.value(), options, file, console);
+    return runOnce(task.value(), options, taskName(file), console);
 }

@@ -8,6 +8,7 @@
 #include "refhost/runner/RunnerText.h"
 
 #include <QCommandLineParser>
+#include <QSet>
 
 #include <algorithm>
 
@@ -42,6 +43,15 @@ std::optional<Problem> applySetting(Task &task, const QString &setting)
 QString optionRole(const QCommandLineOption &option)
 {
     return QStringLiteral("--") + option.names().first();
+}
+
+/// Returns the problem with a second value for the variable `name`: one would be ignored.
+Problem repeatedSetting(const QString &name)
+{
+    return {Problem::Reason::UnfitValue,
+            {},
+            QStringLiteral("--set ") + name,
+            RunnerText::tr("the variable has a value by another --set; expected one")};
 }
 
 /// An option that only makes sense with rows, or never does, if one was given.
@@ -188,9 +198,14 @@ std::optional<Problem> RunOptions::apply(const QCommandLineParser &options, Task
     if (auto problem = findMisplacedOption(options))
         return problem;
     const QStringList settings = options.values(set());
+    QSet<QString> names;
     for (const QString &setting : settings) {
         if (auto problem = applySetting(task, setting))
             return problem;
+        const QString name = setting.section(QLatin1Char('='), 0, 0);
+        if (names.contains(name))
+            return repeatedSetting(name);
+        names.insert(name);
     }
     const QStringList printed = options.values(print());
     for (const QString &name : printed) {

@@ -1,16 +1,19 @@
 #include "refhost/runner/ValidateCommand.h"
 
+#include "refhost/engine/EngineText.h"
 #include "refhost/engine/JsonValue.h"
+#include "refhost/engine/LibraryFile.h"
+#include "refhost/engine/NameIndex.h"
 #include "refhost/runner/Console.h"
 #include "refhost/runner/ExitStatus.h"
 #include "refhost/runner/Options.h"
 #include "refhost/runner/PluginValidation.h"
+#include "refhost/runner/RunnerText.h"
 #include "refhost/runner/TextColumns.h"
 #include "refhost/runner/ValidateOptions.h"
 #include "refhost/runner/ValidationReport.h"
 
 #include <QCommandLineParser>
-#include <QFileInfo>
 #include <QJsonArray>
 
 #include <algorithm>
@@ -19,7 +22,7 @@ namespace {
 
 int usageError(const Console &console, const QString &message)
 {
-    console.complain(QStringLiteral("validate: %1. Try \"oprun validate --help\".").arg(message));
+    console.complain(RunnerText::tr("validate: %1. Try \"oprun validate --help\".").arg(message));
     return BadInput;
 }
 
@@ -111,9 +114,9 @@ QStringList ValidateCommand::arguments() const
     return {QStringLiteral("[PLUGIN]...")};
 }
 
-void ValidateCommand::addOptions(QCommandLineParser &parser) const
+QList<QCommandLineOption> ValidateCommand::options() const
 {
-    ValidateOptions::addTo(parser);
+    return ValidateOptions::all();
 }
 
 int ValidateCommand::run(const QCommandLineParser &parser, const QStringList &arguments,
@@ -135,16 +138,18 @@ int ValidateCommand::run(const QCommandLineParser &parser, const QStringList &ar
         QStringList ids;
         for (const CheckInfo &check : probe.value().checks())
             ids.append(check.id);
-        return usageError(console, QStringLiteral("--only: no check %1; expected %2")
-                                       .arg(jsonText(unknown), ids.join(QLatin1String(", "))));
+        const QString message = RunnerText::tr("--only: no check %1; expected %2")
+                                    .arg(jsonText(unknown), listText(ids));
+        return usageError(console, withSuggestion(message, nearestName(unknown, ids)));
     }
     if (options.value().list) {
         printList(probe.value().checks(), options.value().json, console);
         return Success;
     }
     for (const QString &file : arguments) {
-        if (!QFileInfo(file).isFile()) {
-            console.complain(QStringLiteral("%1: there is no such file").arg(file));
+        const Problem missing{Problem::Reason::PluginNotLoaded, file, {}, missingFileReason(file)};
+        if (!missing.message.isEmpty()) {
+            console.complain(missing.toString());
             return PluginNotLoaded;
         }
     }

@@ -11,7 +11,7 @@ public:
     QString summary() const override;
     QString example() const override;
     QStringList arguments() const override;
-    void addOptions(QCommandLineParser &parser) const override;
+    QList<QCommandLineOption> options() const override;
 
     int run(const QCommandLineParser &options, const QStringList &arguments,
             Console &console) const override;

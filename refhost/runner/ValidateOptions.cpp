@@ -2,6 +2,7 @@
 
 #include "refhost/engine/JsonValue.h"
 #include "refhost/runner/Options.h"
+#include "refhost/runner/RunnerText.h"
 
 #include <QCommandLineParser>
 #include <QDir>
@@ -72,10 +73,10 @@ Result<quint32> numberOf(const QCommandLineParser &parser, const QCommandLineOpt
 
 } // namespace
 
-void ValidateOptions::addTo(QCommandLineParser &parser)
+QList<QCommandLineOption> ValidateOptions::all()
 {
-    parser.addOptions({levelOption(), onlyOption(), listOption(), Options::json(), seedOption(),
-                       timeoutOption(), keepOption()});
+    return {levelOption(), onlyOption(),    listOption(), Options::json(),
+            seedOption(),  timeoutOption(), keepOption()};
 }
 
 Result<ValidateOptions> ValidateOptions::read(const QCommandLineParser &parser)
@@ -89,10 +90,11 @@ Result<ValidateOptions> ValidateOptions::read(const QCommandLineParser &parser)
     }
     const QString folder = parser.value(keepOption());
     if (!QFileInfo(folder).isDir()) {
-        return Problem{Problem::Reason::UnfitValue,
-                       {},
-                       QStringLiteral("--keep"),
-                       QStringLiteral("%1; expected a folder").arg(jsonText(folder))};
+        const QString message =
+            parser.isSet(keepOption())
+                ? RunnerText::tr("--keep: %1; expected a folder").arg(jsonText(folder))
+                : RunnerText::tr("TMPDIR names no folder; expected one whose name is UTF-8");
+        return Problem{Problem::Reason::UnfitValue, {}, {}, message};
     }
     ValidateOptions options;
     options.keepFolder = QFileInfo(folder).absoluteFilePath();

@@ -2,6 +2,8 @@
 
 #include "refhost/engine/Result.h"
 
+#include <QCommandLineOption>
+#include <QList>
 #include <QStringList>
 
 class QCommandLineParser;
@@ -17,7 +19,8 @@ struct ValidateOptions
     int timeoutSeconds = 60;
     QString keepFolder; ///< where the tasks are left that show what is wrong
 
-    static void addTo(QCommandLineParser &parser);
+    /// All the options.
+    static QList<QCommandLineOption> all();
 
     /// Reads the options; the problem names the first one that cannot be used.
     static Result<ValidateOptions> read(const QCommandLineParser &parser);

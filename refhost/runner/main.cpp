@@ -1,3 +1,6 @@
+#include "refhost/engine/ProgramArguments.h"
+#include "refhost/runner/Console.h"
+#include "refhost/runner/ExitStatus.h"
 #include "refhost/runner/Oprun.h"
 
 #include <QCoreApplication>
@@ -46,10 +49,14 @@ void prepareStandardStreams() {}
 int main(int argc, char *argv[])
 {
     prepareStandardStreams();
-    // Arguments and file names are UTF-8 whatever the locale says.
+    // File names are UTF-8 whatever the locale says.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("oprun"));
     QCoreApplication::setApplicationVersion(QStringLiteral(OPRUN_VERSION));
-    return runOprun(QCoreApplication::arguments());
+    const Result<QStringList> arguments = programArguments(argc, argv);
+    if (arguments)
+        return runOprun(arguments.value());
+    Console().complain(arguments.problem().toString());
+    return BadInput;
 }

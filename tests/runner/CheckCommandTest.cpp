@@ -167,10 +167,11 @@ void CheckCommandTest::refuses_data()
     QTest::addColumn<int>("status");
     const auto row = [](const char *name, const QStringList &arguments, const char *err,
                         int status) { QTest::newRow(name) << arguments << err << status; };
-    row("no task", {"check"}, "check: no argument; expected TASK. Try \"oprun --help\".", 2);
-    row("two tasks", {"check", "a", "b"}, "check: a b; expected TASK. Try \"oprun --help\".", 2);
+    row("no task", {"check"}, "check: no argument; expected TASK. Try \"oprun check --help\".", 2);
+    row("two tasks", {"check", "a", "b"}, "check: a b; expected TASK. Try \"oprun check --help\".",
+        2);
     row("option of a run", {"check", "task.json", "--trace"},
-        "Unknown option 'trace'. Try \"oprun --help\".", 2);
+        "check: unknown option \"--trace\". Try \"oprun check --help\".", 2);
     row("no file", {"check", "missing.json"},
         "missing.json: cannot be read (No such file or directory)", 2);
     row("unknown property", {"check", "bad.json"},

@@ -175,6 +175,7 @@ void HelpTest::completes_data()
     row("files", {"run", "examples/inv"}, "examples/invoice.json");
     row("files of an option", {"run", "--each", "exam"}, "examples");
     row("checks", {"validate", "--only", "hostile.l"}, "hostile.largeTexts hostile.locales");
+    row("commands to help with", {"help", "d"}, "describe docs");
     row("levels", {"validate", "--level", ""}, "1 2 3 4 5");
     row("nothing for a number", {"run", "--jobs", ""}, "");
 }

@@ -118,7 +118,9 @@ void LanguageTest::unknownLanguages()
     for (const char *command : {"catalog", "--version"}) {
         const auto outcome = run({command, "--lang=" + language});
         QCOMPARE(outcome.out, QString());
-        QCOMPARE(outcome.err, "oprun: no language \"" + language + "\"; expected en, zh\n");
+        const QString meant = language == "EN" ? " (did you mean \"en\"?)" : "";
+        QCOMPARE(outcome.err,
+                 "oprun: no language \"" + language + "\"; expected en, zh" + meant + '\n');
         QCOMPARE(outcome.status, 2);
     }
 }

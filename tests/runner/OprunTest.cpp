@@ -162,15 +162,15 @@ void OprunTest::refuses_data()
 
     // Of the command line.
     row("no command", valid, {},
-        "no command; expected catalog, describe, run, explain, check, pack, unpack, examples, docs, validate. Try \"oprun --help\".");
+        "no command; expected catalog, describe, run, explain, check, pack, unpack, examples, docs, validate, help. Try \"oprun --help\".");
     row("unknown command", valid, {"walk"},
-        "no command \"walk\"; expected catalog, describe, run, explain, check, pack, unpack, examples, docs, validate. Try \"oprun --help\".");
+        "no command \"walk\"; expected catalog, describe, run, explain, check, pack, unpack, examples, docs, validate, help. Try \"oprun --help\".");
     row("unknown option", valid, {"run", "bad.json", "--fast"},
-        "Unknown option 'fast'. Try \"oprun --help\".");
+        "run: unknown option \"--fast\". Try \"oprun run --help\".");
     row("unknown option alone", valid, {"--fast"},
-        "Unknown option 'fast'. Options of a command follow it. Try \"oprun --help\".");
+        "unknown option \"--fast\"; options of a command follow it. Try \"oprun --help\".");
     row("option before its command", valid, {"--set", "line=x", "run", "bad.json"},
-        "Unknown option 'set'. Options of a command follow it. Try \"oprun --help\".");
+        "unknown option \"--set\"; options of a command follow it. Try \"oprun run --help\".");
     row("empty file name", valid, {"run", ""}, "an empty file name; expected a file");
     row("message on one line", R"({"steps": [], "a\nb": 1})", plain,
         "bad.json: unknown key \"a\\nb\"; expected variables, steps");
@@ -179,19 +179,20 @@ void OprunTest::refuses_data()
     row("deeply nested", QByteArray(2000, '['), plain,
         "bad.json: line 1, column 1025: malformed JSON (too deeply nested document)");
     row("option of another command", valid, {"catalog", "--trace"},
-        "Unknown option 'trace'. Try \"oprun --help\".");
+        "catalog: unknown option \"--trace\". Try \"oprun catalog --help\".");
     row("option without its value", valid, {"run", "bad.json", "--set"},
-        "Missing value after '--set'. Try \"oprun --help\".");
-    row("no task", valid, {"run"}, "run: no argument; expected TASK. Try \"oprun --help\".");
-    row("two tasks", valid, {"run", "a", "b"}, "run: a b; expected TASK. Try \"oprun --help\".");
+        "run: missing value after '--set'. Try \"oprun run --help\".");
+    row("no task", valid, {"run"}, "run: no argument; expected TASK. Try \"oprun run --help\".");
+    row("two tasks", valid, {"run", "a", "b"},
+        "run: a b; expected TASK. Try \"oprun run --help\".");
     row("argument too many", valid, {"catalog", "x"},
-        "catalog: x; expected none. Try \"oprun --help\".");
+        "catalog: x; expected none. Try \"oprun catalog --help\".");
     row("unknown type to describe", valid, {"describe", "text.glue"},
         "no operation \"text.glue\"; expected " + allTypes);
     row("unknown type of examples", valid, {"examples", "text.glue"},
         "no operation \"text.glue\"; expected " + allTypes);
     row("two types of examples", valid, {"examples", "text.pad", "text.trim"},
-        "examples: text.pad text.trim; expected [TYPE]. Try \"oprun --help\".");
+        "examples: text.pad text.trim; expected [TYPE]. Try \"oprun examples --help\".");
     row("unknown mode label",
         R"({"steps": [{"type": "text.trim"}, {"type": "text.pad", "position": "上边"}]})", plain,
         "bad.json: steps[1].position: \"上边\"; "
@@ -200,7 +201,7 @@ void OprunTest::refuses_data()
         "--set: \"line\"; expected NAME=TEXT");
     row("set of an unknown variable", valid, {"run", "bad.json", "--set", "Line=x"},
         "--set: the task has no variable \"Line\"; "
-        "expected count, done, line, part, parts, ratio");
+        "expected count, done, line, part, parts, ratio (did you mean \"line\"?)");
     row("set of an unfit value", valid, {"run", "bad.json", "--set", "count=three"},
         "--set count: \"three\"; expected a whole number from -2147483648 to 2147483647");
     row("print of an unknown variable", valid, {"run", "bad.json", "--print", "x"},
@@ -512,10 +513,8 @@ void OprunTest::pluginThatDoesNotLoad()
 {
     write("libNone.so", "not a library");
     const Outcome outcome = run({"run", "task.json", "--plugin", "libNone.so"});
-    QVERIFY2(outcome.err.startsWith("oprun: libNone.so: cannot be loaded as a plug-in ('") &&
-                 outcome.err.endsWith("is not an ELF object (file too small))\n"),
-             qPrintable(outcome.err));
-    QCOMPARE(outcome.err.count('\n'), 1);
+    QCOMPARE(outcome.err, QString("oprun: libNone.so: cannot be loaded as a plug-in "
+                                  "(it is not a library)\n"));
     QCOMPARE(outcome.out, QString());
     QCOMPARE(outcome.status, 3);
 

@@ -193,11 +193,16 @@ void PackCommandTest::refuses_data()
     const auto row = [](const char *name, const QStringList &arguments, const QString &err) {
         QTest::newRow(name) << arguments << err;
     };
-    const QString usage = " Try \"oprun --help\".";
-    row("no argument", {"pack"}, "pack: no argument; expected TASK OUT." + usage);
-    row("one argument", {"unpack", "a.json"}, "unpack: a.json; expected TASK OUT." + usage);
-    row("three arguments", {"pack", "a", "b", "c"}, "pack: a b c; expected TASK OUT." + usage);
-    row("foreign option", {"pack", "a.json", "out", "--json"}, "Unknown option 'json'." + usage);
+    const auto usage = [](const QString &command) {
+        return QString(" Try \"oprun %1 --help\".").arg(command);
+    };
+    row("no argument", {"pack"}, "pack: no argument; expected TASK OUT." + usage("pack"));
+    row("one argument", {"unpack", "a.json"},
+        "unpack: a.json; expected TASK OUT." + usage("unpack"));
+    row("three arguments", {"pack", "a", "b", "c"},
+        "pack: a b c; expected TASK OUT." + usage("pack"));
+    row("foreign option", {"pack", "a.json", "out", "--json"},
+        "pack: unknown option \"--json\"." + usage("pack"));
     for (const QString command : {"pack", "unpack"}) {
         row(qPrintable(command + ", no file"), {command, "none", "out"},
             "none: cannot be read (No such file or directory)");

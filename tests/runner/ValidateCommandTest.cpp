@@ -137,7 +137,8 @@ void ValidateCommandTest::refuses_data()
     QTest::newRow("no such file") << QStringList{"notes.so", "missing.so"} << 3
                                   << "missing.so: there is no such file";
     QTest::newRow("unknown option")
-        << QStringList{"--fast", "notes.so"} << 2 << "Unknown option 'fast'. Try \"oprun --help\".";
+        << QStringList{"--fast", "notes.so"} << 2
+        << "validate: unknown option \"--fast\". Try \"oprun validate --help\".";
 }
 
 void ValidateCommandTest::refuses()
