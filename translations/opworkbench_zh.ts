@@ -906,5 +906,65 @@
         <source>%1… (%2 characters)</source>
         <translation>%1……（共 %2 个字符）</translation>
     </message>
+    <message>
+        <source>it is not a library</source>
+        <translation>此文件不是库</translation>
+    </message>
+    <message>
+        <source>it is a library for %1; expected one for %2</source>
+        <translation>此库适用于 %1；应适用于 %2</translation>
+    </message>
+    <message>
+        <source>it is a folder; expected a file</source>
+        <translation>这是文件夹；应为文件</translation>
+    </message>
+    <message>
+        <source>it is a device or a pipe; expected a file</source>
+        <translation>这是设备或管道；应为文件</translation>
+    </message>
+    <message>
+        <source>it is a link to a file that does not exist</source>
+        <translation>这是链接，它指向的文件不存在</translation>
+    </message>
+    <message>
+        <source>it cannot be read: %1</source>
+        <translation>无法读取：%1</translation>
+    </message>
+    <message>
+        <source>it is an empty file</source>
+        <translation>文件为空</translation>
+    </message>
+    <message>
+        <source>createPrototypes returns no operation; expected at least one</source>
+        <translation>createPrototypes 没有返回操作；至少应有一个</translation>
+    </message>
+    <message>
+        <source>createPrototypes returns a null pointer at %1; expected an operation</source>
+        <translation>createPrototypes 返回的第 %1 项（从 0 开始计数）是空指针；应为操作</translation>
+    </message>
+    <message>
+        <source>createPrototypes returns the same object at %1 and at %2; expected two objects</source>
+        <translation>createPrototypes 返回的第 %1 项和第 %2 项（从 0 开始计数）是同一个对象；应为两个对象</translation>
+    </message>
+    <message>
+        <source>%1 (did you mean %2?)</source>
+        <translation>%1（是否指 %2？）</translation>
+    </message>
+    <message>
+        <source>argument %1</source>
+        <translation>第 %1 个参数</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not UTF-8; expected UTF-8</source>
+        <translation>“%1”不是 UTF-8；应为 UTF-8</translation>
+    </message>
+    <message>
+        <source>an operation, but none is loaded</source>
+        <translation>操作，但没有加载任何操作</translation>
+    </message>
+    <message>
+        <source>%1 has no such property; expected none at all</source>
+        <translation>%1 没有此属性，也没有任何其他属性</translation>
+    </message>
 </context>
 </TS>

@@ -1,6 +1,7 @@
 #include "refhost/engine/ProgramArguments.h"
 
 #include "refhost/engine/EngineText.h"
+#include "refhost/engine/Excerpt.h"
 
 #include <QByteArray>
 #include <QCoreApplication>
@@ -37,10 +38,9 @@ int characterSize(const QByteArray &bytes, int index)
 /// Returns the beginning of the bytes as text, those outside of UTF-8 as "\xff".
 QString escaped(const QByteArray &bytes)
 {
-    constexpr int longest = 200;
     QString text;
     int index = 0;
-    while (index < bytes.size() && text.size() < longest) {
+    while (index < bytes.size() && text.size() < longestExcerpt) {
         const int size = characterSize(bytes, index);
         text += size > 0 ? textOf(bytes.mid(index, size))
                          : QLatin1String("\\x") + QLatin1String(bytes.mid(index, 1).toHex());

@@ -90,7 +90,7 @@ void TaskTest::refuses_data()
     row("steps no array", R"({"steps": {}})", Reason::WrongKind,
         "steps: {}; expected an array of steps");
     row("unknown key", R"({"steps": [], "setps": []})", Reason::UnknownKey,
-        "unknown key \"setps\"; expected variables, steps");
+        "unknown key \"setps\"; expected variables, steps (did you mean \"steps\"?)");
     row("variables no object", R"({"steps": [], "variables": [1]})", Reason::WrongKind,
         "variables: [1]; expected an object of variables");
     row("variable no object", R"({"steps": [], "variables": {"a": "x"}})", Reason::WrongKind,
