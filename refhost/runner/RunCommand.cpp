@@ -5,13 +5,16 @@
 #include "refhost/runner/Console.h"
 #include "refhost/runner/ExitStatus.h"
 #include "refhost/runner/FileRoles.h"
+#include "refhost/runner/LanguageChoice.h"
 #include "refhost/runner/OneLine.h"
 #include "refhost/runner/Options.h"
+#include "refhost/runner/PluginChoice.h"
 #include "refhost/runner/RepeatedLines.h"
 #include "refhost/runner/RunOptions.h"
 #include "refhost/runner/RunnerText.h"
 #include "refhost/runner/StepTrace.h"
 #include "refhost/runner/TaskFile.h"
+#include "refhost/runner/WarningExplainer.h"
 #include "refhost/runner/rows/RowRun.h"
 
 #include "Operation.h"
@@ -22,14 +25,16 @@
 namespace {
 
 void complainOfStep(const StepReport &report, const QString &file, RepeatedLines &repeated,
-                    const Console &console)
+                    WarningExplainer &explainer, const Console &console)
 {
     for (const QString &warning : report.warnings) {
         const QString line =
             QStringLiteral("%1: steps[%2] (%3): %4")
                 .arg(file, QString::number(report.index), report.step->typeId(), warning);
-        if (repeated.isShown(report.index, line))
-            console.complain(line);
+        if (!repeated.isShown(report.index, line))
+            continue;
+        console.complain(line);
+        explainer.explainOnce(report.step->typeId(), warning);
     }
 }
 
@@ -52,7 +57,7 @@ void printVariables(const VariableScope &scope, const QStringList &chosen, bool 
 }
 
 int runOnce(const Task &task, const QCommandLineParser &options, const QString &file,
-            Console &console)
+            WarningExplainer &explainer, Console &console)
 {
     bool warned = false;
     VariableScope scope = task.startScope();
@@ -66,9 +71,9 @@ int runOnce(const Task &task, const QCommandLineParser &options, const QString &
     const auto report = [&](const StepReport &done) {
         warned = warned || !done.warnings.isEmpty();
         if (isTraced)
-            trace.show(done, scope, console);
+            trace.show(done, scope, explainer, console);
         else
-            complainOfStep(done, file, repeated, console);
+            complainOfStep(done, file, repeated, explainer, console);
     };
     runTask(task, scope, report, begin);
     const QStringList rest = repeated.rest();
@@ -93,11 +98,12 @@ std::optional<Problem> findSharedInput(const QCommandLineParser &options, const 
                                   "a file for one of them")};
 }
 
-int runOnRows(const Task &task, const QCommandLineParser &options, const Console &console)
+int runOnRows(const Task &task, const QCommandLineParser &options, WarningExplainer &explainer,
+              const Console &console)
 {
     const Result<RowRun> run = rowRunFromOptions(options, task);
     if (run)
-        return runRows(task, run.value(), console);
+        return runRows(task, run.value(), explainer, console);
     console.complain(run.problem().toString());
     return BadInput;
 }
@@ -153,7 +159,9 @@ int RunCommand::runWith(const OperationCatalog &catalog, const QCommandLineParse
         console.complain(problem->toString());
         return BadInput;
     }
+    const Result<QStringList> languages = chosenLanguages(options, chosenPlugins(options));
+    WarningExplainer explainer(catalog, languages ? languages.value() : QStringList(), console);
     if (RunOptions::asksForRows(options))
-        return runOnRows(task.value(), options, console);
-    return runOnce(task.value(), options, taskName(file), console);
+        return runOnRows(task.value(), options, explainer, console);
+    return runOnce(task.value(), options, taskName(file), explainer, console);
 }

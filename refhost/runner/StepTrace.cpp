@@ -5,6 +5,7 @@
 #include "refhost/engine/TaskRunner.h"
 #include "refhost/runner/Console.h"
 #include "refhost/runner/OneLine.h"
+#include "refhost/runner/WarningExplainer.h"
 
 #include "Operation.h"
 #include "VariableScope.h"
@@ -89,7 +90,7 @@ void StepTrace::begin(const Operation &step, const VariableScope &scope)
 }
 
 void StepTrace::show(const StepReport &report, const VariableScope &scope,
-                     const Console &console) const
+                     WarningExplainer &explainer, const Console &console) const
 {
     const QString number = stepNumber(report.index);
     const QString indent(number.size(), QLatin1Char(' '));
@@ -99,8 +100,10 @@ void StepTrace::show(const StepReport &report, const VariableScope &scope,
         console.note(indent + line);
     for (const QString &name : report.written)
         console.note(indent + oneLine(name) + QStringLiteral(" = ") + valueText(scope.get(name)));
-    for (const QString &line : report.warnings)
+    for (const QString &line : report.warnings) {
         console.note(indent + QStringLiteral("warning: ") + oneLine(line));
+        explainer.explain(report.step->typeId(), line, indent);
+    }
     const double microseconds = static_cast<double>(report.nanoseconds) / 1000;
     console.note(indent + QStringLiteral("took %1 µs").arg(microseconds, 0, 'f', 1));
 }

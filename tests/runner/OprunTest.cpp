@@ -108,8 +108,13 @@ void OprunTest::runsTasks_data()
 
     const QString warnings = "oprun: warn.json: steps[0] (text.append): "
                              "[TextOp] 变量 \"n\" 未声明为字符串，已跳过\n"
+                             "  what it means: the result is a text, and there is no variable "
+                             "\"n\" of type string; nothing was written; declare it as string, or "
+                             "name another one\n"
                              "oprun: warn.json: steps[1] (text.append): "
-                             "[TextAppend] 未指定结果变量，已跳过\n";
+                             "[TextAppend] 未指定结果变量，已跳过\n"
+                             "  what it means: no result variable is named, so the step did "
+                             "nothing; name one in resultVar\n";
     QTest::newRow("all variables")
         << QStringList{"run", "task.json"} << 0
         << "count = 3\ndone = false\nline = \"key=value;\"\npart = \"key=value;!\"\n"

@@ -82,15 +82,20 @@ void StepTraceTest::showsAStep_data()
     row("no variable of that name",
         R"({"type": "text.join", "listVar": "$parts", "separator": "-", "resultVar": "part"})",
         {R"(listVar: "$parts" is no variable)", R"(separator: "-")", R"(part = "")",
-         QString::fromUtf8("warning: [TextOp] 变量 \"$parts\" 不是列表类型，已跳过")});
+         QString::fromUtf8("warning: [TextOp] 变量 \"$parts\" 不是列表类型，已跳过"),
+         "  what it means: there is no variable \"$parts\" of type list to join; the result is an "
+         "empty text; name a list variable"});
     row("long list",
         R"({"type": "text.join", "listVar": "many", "separator": "", "resultVar": "count"})",
         {R"(listVar: "many" is ["1234567890","1234567890","1234567890","1234567890","123456… (6 elements))",
          R"(separator: "")",
-         QString::fromUtf8("warning: [TextOp] 变量 \"count\" 未声明为字符串，已跳过")});
+         QString::fromUtf8("warning: [TextOp] 变量 \"count\" 未声明为字符串，已跳过"),
+         "  what it means: the result is a text, and there is no variable \"count\" of type string; "
+         "nothing was written; declare it as string, or name another one"});
     row("nothing to write into", R"({"type": "text.reverse", "sourceText": "ab"})",
-        {R"(sourceText: "ab")",
-         QString::fromUtf8("warning: [TextReverse] 未指定结果变量，已跳过")});
+        {R"(sourceText: "ab")", QString::fromUtf8("warning: [TextReverse] 未指定结果变量，已跳过"),
+         "  what it means: no result variable is named, so the step did nothing; name one in "
+         "resultVar"});
 }
 
 void StepTraceTest::showsAStep()

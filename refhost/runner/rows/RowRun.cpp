@@ -245,7 +245,8 @@ Result<RowRun> rowRunFromOptions(const QCommandLineParser &options, const Task &
     return run;
 }
 
-int runRows(const Task &task, const RowRun &run, const Console &console)
+int runRows(const Task &task, const RowRun &run, WarningExplainer &explainer,
+            const Console &console)
 {
     RowSource source(run.rows, run.firstLine);
     OutputFile out(run.out);
@@ -266,7 +267,7 @@ int runRows(const Task &task, const RowRun &run, const Console &console)
         console.complain(problem->toString());
         return BadInput;
     }
-    RowSink sink(source.name(), out, hasErrors ? &errors : nullptr, console);
+    RowSink sink(source.name(), out, hasErrors ? &errors : nullptr, explainer, console);
     problem = runAll(task, run, interruption, source, sink);
     sink.finish();
     source.close();

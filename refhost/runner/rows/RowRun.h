@@ -8,6 +8,7 @@
 class Console;
 class QCommandLineParser;
 class Task;
+class WarningExplainer;
 
 /// What the command line says about running a task on rows.
 struct RowRun
@@ -26,5 +27,7 @@ struct RowRun
 /// Reads the options; a problem names the first that cannot be used.
 Result<RowRun> rowRunFromOptions(const QCommandLineParser &options, const Task &task);
 
-/// Runs the task on all rows, with a summary at the end. Returns the exit status.
-int runRows(const Task &task, const RowRun &run, const Console &console);
+/// Runs the task on all rows, with a summary at the end; the first warning line of each
+/// kind is explained. Returns the exit status.
+int runRows(const Task &task, const RowRun &run, WarningExplainer &explainer,
+            const Console &console);

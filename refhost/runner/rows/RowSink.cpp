@@ -3,6 +3,7 @@
 #include "refhost/engine/Excerpt.h"
 #include "refhost/runner/Console.h"
 #include "refhost/runner/RunnerText.h"
+#include "refhost/runner/WarningExplainer.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -50,10 +51,12 @@ QString rowText(const QByteArray &row)
 
 } // namespace
 
-RowSink::RowSink(const QString &source, OutputFile &out, OutputFile *errors, const Console &console)
+RowSink::RowSink(const QString &source, OutputFile &out, OutputFile *errors,
+                 WarningExplainer &explainer, const Console &console)
     : m_source(source)
     , m_out(out)
     , m_errors(errors)
+    , m_explainer(explainer)
     , m_console(console)
     , m_progress(!out.isStandardOutput())
 {
@@ -90,8 +93,11 @@ void RowSink::complain(const RowNote &note)
                      : QStringLiteral("line %1: steps[%2] (%3): %4")
                            .arg(QString::number(note.line), QString::number(note.warning.step),
                                 note.warning.typeId, note.warning.line);
-    if (m_repeated.isShown(note.problem ? -1 : note.warning.step, line))
-        m_console.complain(inSource(note.problem ? line + rowText(note.row) : line));
+    if (!m_repeated.isShown(note.problem ? -1 : note.warning.step, line))
+        return;
+    m_console.complain(inSource(note.problem ? line + rowText(note.row) : line));
+    if (!note.problem)
+        m_explainer.explainKindOnce(note.warning.typeId, note.warning.line);
 }
 
 QString RowSink::inSource(const QString &line) const

@@ -9,14 +9,17 @@
 #include <optional>
 
 class Console;
+class WarningExplainer;
 
 /// Takes what comes of the rows: prints the lines, notes what went wrong, and counts.
 class RowSink
 {
 public:
     /// `source` is how messages call the input. The lines go to `out`; the notes go to the file
-    /// `errors`, or to standard error when it is null. All of them have to outlive the sink.
-    RowSink(const QString &source, OutputFile &out, OutputFile *errors, const Console &console);
+    /// `errors`, or to standard error when it is null, there with an explanation below the first
+    /// warning line of each kind. All of them have to outlive the sink.
+    RowSink(const QString &source, OutputFile &out, OutputFile *errors, WarningExplainer &explainer,
+            const Console &console);
 
     /// Takes the next outcome. False when no more are wanted.
     bool take(const RowBatchOutcome &outcome);
@@ -40,6 +43,7 @@ private:
     QString m_source;
     OutputFile &m_out;
     OutputFile *m_errors;
+    WarningExplainer &m_explainer;
     const Console &m_console;
     ProgressLine m_progress;
     RowTally m_tally;
