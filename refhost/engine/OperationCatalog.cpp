@@ -65,9 +65,12 @@ QList<CatalogEntry> entriesOf(const LoadedPlugin &plugin)
 
 } // namespace
 
-OperationCatalog::OperationCatalog(const QStringList &files, const QHash<QString, QString> &copies)
+OperationCatalog::OperationCatalog(const QStringList &files, const QHash<QString, QString> &copies,
+                                   const std::function<void(const QString &)> &begin)
 {
     for (const QString &file : files) {
+        if (begin)
+            begin(file);
         Result<LoadedPlugin> plugin = LoadedPlugin::load(copies.value(file, file), file);
         if (plugin)
             add(std::move(plugin.value()));
@@ -101,6 +104,18 @@ const CatalogEntry *OperationCatalog::find(const QString &typeId) const
     const auto found = std::find_if(m_entries.cbegin(), m_entries.cend(),
                                     [&](const auto &entry) { return entry.typeId == typeId; });
     return found == m_entries.cend() ? nullptr : &*found;
+}
+
+QString OperationCatalog::pluginFile(const QString &typeId) const
+{
+    const CatalogEntry *const entry = find(typeId);
+    const auto found = std::find_if(m_plugins.cbegin(), m_plugins.cend(), [&](const auto &plugin) {
+        const auto &all = plugin.prototypes();
+        return std::any_of(all.cbegin(), all.cend(), [&](const auto &prototype) {
+            return entry && prototype.get() == entry->prototype;
+        });
+    });
+    return found == m_plugins.cend() ? QString() : found->path();
 }
 
 QStringList OperationCatalog::typeIds() const

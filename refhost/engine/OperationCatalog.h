@@ -8,6 +8,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <vector>
 
 class Operation;
@@ -31,7 +32,9 @@ public:
     /// Loads the plug-ins in `files`. One that cannot be loaded, or that brings a type identifier
     /// that is there already, is left out and stands in `failures`. A file that is a key of
     /// `copies` is loaded from the copy that stands there, and goes by its own name all the same.
-    explicit OperationCatalog(const QStringList &files, const QHash<QString, QString> &copies = {});
+    /// `begin` is called with the name of each file before that file is loaded.
+    explicit OperationCatalog(const QStringList &files, const QHash<QString, QString> &copies = {},
+                              const std::function<void(const QString &)> &begin = {});
 
     const QList<CatalogEntry> &entries() const { return m_entries; }
     const QList<Problem> &failures() const { return m_failures; }
@@ -39,6 +42,9 @@ public:
 
     /// The entry of the type identifier, null when there is none. Valid as long as the catalogue.
     const CatalogEntry *find(const QString &typeId) const;
+
+    /// Returns the file of the plug-in that contributes the operation, empty when none does.
+    QString pluginFile(const QString &typeId) const;
 
     /// The type identifiers, in catalogue order.
     QStringList typeIds() const;

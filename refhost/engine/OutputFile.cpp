@@ -14,6 +14,42 @@
 #    include <unistd.h>
 #endif
 
+#ifdef Q_OS_LINUX
+#    include <array>
+#    include <climits>
+#    include <sys/stat.h>
+#endif
+
+namespace {
+
+#ifdef Q_OS_LINUX
+
+/// The path of an open file. Empty for one without a name, which the system removes by itself.
+QByteArray pathOf(int descriptor)
+{
+    const QByteArray link = "/proc/self/fd/" + QByteArray::number(descriptor);
+    std::array<char, PATH_MAX> buffer;
+    const auto size = readlink(link.constData(), buffer.data(), buffer.size());
+    const QByteArray path(buffer.data(), static_cast<int>(qMax<ssize_t>(size, 0)));
+    struct stat named = {};
+    struct stat opened = {};
+    const bool isThere = stat(path.constData(), &named) == 0 && fstat(descriptor, &opened) == 0 &&
+                         named.st_ino == opened.st_ino && named.st_dev == opened.st_dev;
+    return isThere ? path : QByteArray();
+}
+
+#else
+
+QByteArray pathOf(int descriptor)
+{
+    Q_UNUSED(descriptor)
+    return {};
+}
+
+#endif
+
+} // namespace
+
 OutputFile::OutputFile(const QString &name)
     : m_name(name)
 {
@@ -102,6 +138,11 @@ std::optional<Problem> OutputFile::writeToStandardOutput(const QByteArray &bytes
         return std::nullopt;
     m_readerIsGone = errno == EPIPE;
     return unwritable(qt_error_string(errno));
+}
+
+QByteArray OutputFile::temporaryFile() const
+{
+    return qobject_cast<QSaveFile *>(m_file.get()) ? pathOf(m_file->handle()) : QByteArray();
 }
 
 std::optional<Problem> OutputFile::commit()

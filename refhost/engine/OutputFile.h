@@ -33,6 +33,9 @@ public:
     /// Whether writing failed because whoever read standard output has gone.
     bool readerIsGone() const { return m_readerIsGone; }
 
+    /// Returns the file that is written until `commit`; empty where it has no name, or is none.
+    QByteArray temporaryFile() const;
+
     /// Lets the file appear under its name. Without it there is none, or still the one before.
     std::optional<Problem> commit();
 

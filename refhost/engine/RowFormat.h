@@ -10,4 +10,5 @@ struct RowFormat
     QStringList printed;      ///< the variables that come out; empty for all
     bool plainText = false;   ///< the bare value of the one printed variable, instead of an object
     bool keepsFailed = false; ///< a row that failed leaves a line, too
+    bool endsAtFailedStep = false; ///< a row ends, without output, at a step that throws
 };

@@ -3,6 +3,7 @@
 #include "refhost/engine/Excerpt.h"
 #include "refhost/engine/JsonFile.h"
 #include "refhost/engine/JsonValue.h"
+#include "refhost/engine/StepGuard.h"
 #include "refhost/engine/TaskProblem.h"
 
 #include "Operation.h"
@@ -73,7 +74,9 @@ RowOutcome RowRunner::run(const QByteArray &row, qint64 line)
         outcome.problem = take(row, line);
         if (outcome.problem)
             return outcome;
-        outcome.warnings = runSteps();
+        runSteps(outcome);
+        if (outcome.failedSteps > 0 && m_format.endsAtFailedStep)
+            return outcome;
         Result<QByteArray> written = output(line);
         if (written)
             outcome.output = written.value();
@@ -131,18 +134,26 @@ std::optional<Problem> RowRunner::takeText(const QByteArray &row, qint64 line)
     return std::nullopt;
 }
 
-QList<StepWarning> RowRunner::runSteps()
+void RowRunner::runSteps(RowOutcome &outcome)
 {
-    QList<StepWarning> warnings;
     int index = 0;
     for (const auto &step : m_task.steps) {
-        step->doOperation();
-        const QStringList lines = m_capture.takeLines();
-        for (const QString &line : lines)
-            warnings.append({index, step->typeId(), line});
-        ++index;
+        runStep(*step, index++, outcome);
+        if (outcome.failedSteps > 0 && m_format.endsAtFailedStep)
+            return;
     }
-    return warnings;
+}
+
+void RowRunner::runStep(const Operation &step, int index, RowOutcome &outcome)
+{
+    const std::optional<QString> failure = runGuarded(step, index);
+    const QStringList lines = m_capture.takeLines();
+    for (const QString &line : lines)
+        outcome.warnings.append({index, step.typeId(), line});
+    if (failure) {
+        outcome.warnings.append({index, step.typeId(), *failure, true});
+        ++outcome.failedSteps;
+    }
 }
 
 Result<QByteArray> RowRunner::output(qint64 line) const

@@ -11,12 +11,13 @@
 
 #include <optional>
 
-/// A line that a step logged.
+/// A line that a step logged, or what it threw.
 struct StepWarning
 {
     int step = 0; ///< place in the task, counted from 0
     QString typeId;
     QString line;
+    bool isFailure = false; ///< `line` is what the step threw
 };
 
 /// What came of one row.
@@ -24,6 +25,7 @@ struct RowOutcome
 {
     QByteArray output; ///< without a line break; nothing when there is a problem
     QList<StepWarning> warnings;
+    int failedSteps = 0;            ///< how many of the warnings are failures
     std::optional<Problem> problem; ///< why the row failed; names the line, but no file
 };
 
@@ -46,7 +48,8 @@ private:
     std::optional<Problem> take(const QByteArray &row, qint64 line);
     std::optional<Problem> takeObject(const QByteArray &row, qint64 line);
     std::optional<Problem> takeText(const QByteArray &row, qint64 line);
-    QList<StepWarning> runSteps();
+    void runSteps(RowOutcome &outcome);
+    void runStep(const Operation &step, int index, RowOutcome &outcome);
     Result<QByteArray> output(qint64 line) const;
     Result<QByteArray> plainOutput(qint64 line) const;
 

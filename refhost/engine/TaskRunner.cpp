@@ -1,6 +1,7 @@
 #include "refhost/engine/TaskRunner.h"
 
 #include "refhost/engine/MessageCapture.h"
+#include "refhost/engine/StepGuard.h"
 #include "refhost/engine/Task.h"
 
 #include "Operation.h"
@@ -8,15 +9,16 @@
 
 #include <QElapsedTimer>
 
-StepReport runStep(Operation &step, VariableScope &scope)
+StepReport runStep(Operation &step, VariableScope &scope, int index)
 {
     MessageCapture capture;
     scope.forgetWrites();
     step.setVariableScope(&scope);
     StepReport report;
+    report.index = index;
     QElapsedTimer clock;
     clock.start();
-    step.doOperation();
+    report.failure = runGuarded(step, index);
     report.nanoseconds = clock.nsecsElapsed();
     step.setVariableScope(nullptr);
     report.step = &step;
@@ -33,8 +35,6 @@ void runTask(const Task &task, VariableScope &scope,
     for (const auto &step : task.steps) {
         if (begin)
             begin(*step);
-        StepReport stepReport = runStep(*step, scope);
-        stepReport.index = index++;
-        report(stepReport);
+        report(runStep(*step, scope, index++));
     }
 }

@@ -37,9 +37,10 @@ Result<ExampleOutcome> runExample(const WorkedExample &example, const QString &t
     if (!task)
         return task.problem();
     VariableScope scope = task.value().startScope();
-    ExampleOutcome outcome{QJsonValue::Undefined, {}, {}};
+    ExampleOutcome outcome{QJsonValue::Undefined, {}, {}, {}};
     runTask(task.value(), scope, [&](const StepReport &report) {
         outcome.warnings = report.warnings;
+        outcome.failure = report.failure;
         outcome.others = report.written;
         if (outcome.others.removeOne(resultName()))
             outcome.result = variantToJson(scope.get(resultName()));

@@ -7,6 +7,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 class OperationCatalog;
 class OperationSchema;
 
@@ -26,7 +28,8 @@ struct ExampleOutcome
 {
     QJsonValue result; ///< what was written to "result", undefined when nothing was
     QStringList warnings;
-    QStringList others; ///< the other variables that were written; an example has none
+    QStringList others;             ///< the other variables that were written; an example has none
+    std::optional<QString> failure; ///< what the step threw, which no example has
 };
 
 /// Runs an example of the operation `typeId` as a task of one step. A problem says what about its

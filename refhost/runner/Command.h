@@ -1,5 +1,7 @@
 #pragma once
 
+#include "refhost/engine/Result.h"
+
 #include <QCommandLineOption>
 #include <QList>
 #include <QString>
@@ -26,6 +28,18 @@ public:
     virtual QStringList arguments() const { return {}; }
     /// The options that only this command has.
     virtual QList<QCommandLineOption> options() const { return {}; }
+
+    /// Returns whether the command runs code of plug-ins in this process, so that the process has
+    /// to be supervised.
+    virtual bool runsPlugins() const { return false; }
+
+    /// Returns the seconds after which `supervise` ends the command, 0 for no limit. A problem
+    /// tells why the options give no time.
+    virtual Result<double> timeoutSeconds(const QCommandLineParser &options) const
+    {
+        Q_UNUSED(options)
+        return 0.0;
+    }
 
     /// Does the work. `arguments` are as many as `arguments()` allows. Returns the exit status.
     virtual int run(const QCommandLineParser &options, const QStringList &arguments,

@@ -2,6 +2,7 @@
 
 #include "refhost/engine/OutputFile.h"
 #include "refhost/runner/OneLine.h"
+#include "refhost/runner/supervision/RunProgress.h"
 
 #include <QJsonDocument>
 
@@ -40,7 +41,10 @@ void Console::complain(const QString &message) const
 bool Console::flush()
 {
     OutputFile out(QStringLiteral("-"));
+    RunProgress &progress = RunProgress::current();
+    progress.isWriting = true;
     const auto problem = out.write(m_results);
+    progress.isWriting = false;
     if (problem)
         complain(problem->toString());
     else

@@ -6,10 +6,14 @@
 #include "refhost/engine/OperationSchema.h"
 #include "refhost/runner/Console.h"
 #include "refhost/runner/ExitStatus.h"
+#include "refhost/runner/RunnerText.h"
+#include "refhost/runner/StepNames.h"
+#include "refhost/runner/supervision/RunProgress.h"
 
 #include "Operation.h"
 
 #include <QCommandLineParser>
+#include <QFileInfo>
 
 namespace {
 
@@ -51,6 +55,8 @@ QString shown(const ExampleOutcome &outcome)
                                               : jsonText(outcome.result));
     for (const QString &line : outcome.warnings)
         parts.append(QStringLiteral("warning ") + line);
+    if (outcome.failure)
+        parts.append(QStringLiteral("threw ") + *outcome.failure);
     for (const QString &name : outcome.others)
         parts.append(QStringLiteral("written to ") + name);
     return parts.join(QLatin1String(", "));
@@ -62,7 +68,12 @@ int differences(const CatalogEntry &entry, const OperationPage &page,
 {
     int count = 0;
     for (const WorkedExample &example : page.examples) {
-        const ExampleOutcome expected{example.result, example.warnings, {}};
+        const ExampleOutcome expected{example.result, example.warnings, {}, {}};
+        RunProgress::current().activity.set(
+            RunnerText::tr("running the example \"%1\" of %2")
+                .arg(example.name,
+                     stepName(entry.typeId, QFileInfo(catalog.pluginFile(entry.typeId)).fileName()))
+                .toUtf8());
         const Result<ExampleOutcome> actual = runExample(example, entry.typeId, catalog);
         if (actual && shown(actual.value()) == shown(expected))
             continue;

@@ -11,6 +11,9 @@ enum ExitStatus : int {
     BadInput = 2,        ///< the command line, a file or an output cannot be used
     PluginNotLoaded = 3, ///< a plug-in does not load
     PluginCrashed = 4,   ///< a plug-in took the process along that checked it, or kept it too long
-    Interrupted = 130,   ///< asked to end while rows were left, as a shell would report it
+    StepFailed = 5,      ///< a step threw an exception
+    StepCrashed = 6,     ///< a step, or a plug-in while it was loaded, ended the process
+    TimedOut = 124,      ///< a row or a run took too long, as `timeout` would report it
+    Interrupted = 130,   ///< asked to end by a signal, as a shell would report it
     ReaderGone = 141     ///< nobody reads the output any more, as a shell would report it
 };

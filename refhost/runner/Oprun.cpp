@@ -18,6 +18,7 @@
 #include "refhost/runner/UnpackCommand.h"
 #include "refhost/runner/ValidateCommand.h"
 #include "refhost/runner/Versions.h"
+#include "refhost/runner/supervision/Supervisor.h"
 
 #include <QCommandLineParser>
 
@@ -195,9 +196,23 @@ int HelpCommand::run(const QCommandLineParser &options, const QStringList &argum
     return Success;
 }
 
-int runCommand(const Command &command, const QStringList &arguments)
+/// Runs the command and writes its results.
+int perform(const Command &command, const QCommandLineParser &parser, const QStringList &arguments)
 {
     Console console;
+    int status = BadInput;
+    try {
+        status = command.run(parser, arguments, console);
+    } catch (const std::bad_alloc &) {
+        // Steps go on without what does not fit; showing what does can still be too much.
+        console.complain(QStringLiteral("what this takes does not fit into memory"));
+    }
+    return console.flush() ? status : BadInput;
+}
+
+int runCommand(const Command &command, const QStringList &arguments)
+{
+    const Console console;
     QCommandLineParser parser;
     prepare(parser, command);
     parser.parse(arguments);
@@ -213,14 +228,14 @@ int runCommand(const Command &command, const QStringList &arguments)
                                          listOr(command.arguments(), RunnerText::tr("none")));
         return usageError(console, place(command, message), &command);
     }
-    int status = BadInput;
-    try {
-        status = command.run(parser, given, console);
-    } catch (const std::bad_alloc &) {
-        // Steps go on without what does not fit; showing what does can still be too much.
-        console.complain(QStringLiteral("what this takes does not fit into memory"));
+    const Result<double> timeout = command.timeoutSeconds(parser);
+    if (!timeout) {
+        console.complain(timeout.problem().toString());
+        return BadInput;
     }
-    return console.flush() ? status : BadInput;
+    if (!command.runsPlugins())
+        return perform(command, parser, given);
+    return supervise([&] { return perform(command, parser, given); }, timeout.value());
 }
 
 } // namespace

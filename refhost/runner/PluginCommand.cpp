@@ -10,6 +10,7 @@
 #include "refhost/runner/LanguageChoice.h"
 #include "refhost/runner/PluginChoice.h"
 #include "refhost/runner/RunnerText.h"
+#include "refhost/runner/supervision/RunProgress.h"
 
 int PluginCommand::run(const QCommandLineParser &options, const QStringList &arguments,
                        Console &console) const
@@ -35,7 +36,11 @@ int PluginCommand::run(const QCommandLineParser &options, const QStringList &arg
         return BadInput;
     }
     const auto translations = translate(plugins, languages.value(), console);
-    const OperationCatalog catalog(plugins);
+    RunProgress &progress = RunProgress::current();
+    const OperationCatalog catalog(plugins, {}, [&](const QString &file) {
+        progress.activity.set(RunnerText::tr("loading %1").arg(file).toUtf8());
+    });
+    progress.activity.set({});
     for (const Problem &failure : catalog.failures())
         console.complain(failure.toString());
     if (!catalog.failures().isEmpty())

@@ -13,6 +13,8 @@ struct FileRole;
 class PluginCommand : public Command
 {
 public:
+    bool runsPlugins() const final { return true; }
+
     /// Loads the plug-ins, and their texts in the language of the user, and runs the command on
     /// them; with a message when one does not load.
     int run(const QCommandLineParser &options, const QStringList &arguments,

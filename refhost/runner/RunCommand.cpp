@@ -12,10 +12,13 @@
 #include "refhost/runner/RepeatedLines.h"
 #include "refhost/runner/RunOptions.h"
 #include "refhost/runner/RunnerText.h"
+#include "refhost/runner/StepNames.h"
 #include "refhost/runner/StepTrace.h"
 #include "refhost/runner/TaskFile.h"
 #include "refhost/runner/WarningExplainer.h"
+#include "refhost/runner/rows/Interruption.h"
 #include "refhost/runner/rows/RowRun.h"
+#include "refhost/runner/supervision/RunProgress.h"
 
 #include "Operation.h"
 
@@ -24,18 +27,96 @@
 
 namespace {
 
-void complainOfStep(const StepReport &report, const QString &file, RepeatedLines &repeated,
-                    WarningExplainer &explainer, const Console &console)
+/// What a run without rows needs besides its task.
+struct SingleRun
+{
+    QString file;
+    QStringList plugins; ///< of each step
+    bool isTraced = false;
+    bool stopsAtFailure = false;
+};
+
+/// How it ended.
+struct SingleEnd
+{
+    bool hasWarned = false;
+    bool hasFailed = false;
+    bool isComplete = true; ///< all steps have run
+    int status = Success;   ///< where not all have
+
+    void stop(int reason)
+    {
+        isComplete = false;
+        status = reason;
+    }
+};
+
+/// What the messages on the steps need.
+struct StepMessages
+{
+    const SingleRun &run;
+    WarningExplainer &explainer;
+    const Console &console;
+    RepeatedLines repeated = {};
+};
+
+void complainOfStep(const StepReport &report, StepMessages &messages)
 {
     for (const QString &warning : report.warnings) {
-        const QString line =
-            QStringLiteral("%1: steps[%2] (%3): %4")
-                .arg(file, QString::number(report.index), report.step->typeId(), warning);
-        if (!repeated.isShown(report.index, line))
+        const QString line = QStringLiteral("%1: steps[%2] (%3): %4")
+                                 .arg(messages.run.file, QString::number(report.index),
+                                      report.step->typeId(), warning);
+        if (!messages.repeated.isShown(report.index, line))
             continue;
-        console.complain(line);
-        explainer.explainOnce(report.step->typeId(), warning);
+        messages.console.complain(line);
+        messages.explainer.explainOnce(report.step->typeId(), warning);
     }
+}
+
+/// Tells what the step did: all of it with a trace, otherwise what went wrong.
+void report(const StepReport &step, const VariableScope &scope, const StepTrace &trace,
+            StepMessages &messages)
+{
+    const SingleRun &run = messages.run;
+    if (run.isTraced)
+        trace.show(step, scope, messages.explainer, messages.console);
+    else
+        complainOfStep(step, messages);
+    if (step.failure) {
+        messages.console.complain(failureMessage(run.file, step.index, step.step->typeId(),
+                                                 run.plugins.at(step.index), *step.failure));
+    }
+}
+
+/// Runs the steps up to the end, a failure that stops them, or a signal.
+SingleEnd runSteps(const Task &task, VariableScope &scope, StepMessages &messages)
+{
+    const Interruption interruption(RunProgress::current().isSupervised);
+    const SingleRun &run = messages.run;
+    StepTrace trace;
+    SingleEnd end;
+    const int count = static_cast<int>(task.steps.size());
+    for (int i = 0; i < count && end.isComplete; ++i) {
+        if (interruption.requested()) {
+            messages.console.complain(RunnerText::tr("%1: interrupted before steps[%2]")
+                                          .arg(run.file, QString::number(i)));
+            end.stop(Interrupted);
+            break;
+        }
+        Operation &step = *task.steps.at(static_cast<std::size_t>(i));
+        if (run.isTraced)
+            trace.begin(step, scope);
+        const StepReport done = runStep(step, scope, i);
+        report(done, scope, trace, messages);
+        end.hasWarned = end.hasWarned || !done.warnings.isEmpty();
+        end.hasFailed = end.hasFailed || done.failure;
+        if (end.hasFailed && run.stopsAtFailure)
+            end.stop(StepFailed);
+    }
+    const QStringList rest = messages.repeated.rest();
+    for (const QString &line : rest)
+        messages.console.complain(line);
+    return end;
 }
 
 void printVariables(const VariableScope &scope, const QStringList &chosen, bool asJson,
@@ -56,32 +137,19 @@ void printVariables(const VariableScope &scope, const QStringList &chosen, bool 
         console.printJson(json);
 }
 
-int runOnce(const Task &task, const QCommandLineParser &options, const QString &file,
+int runOnce(const Task &task, const SingleRun &run, const QCommandLineParser &options,
             WarningExplainer &explainer, Console &console)
 {
-    bool warned = false;
     VariableScope scope = task.startScope();
-    const bool isTraced = options.isSet(RunOptions::trace());
-    StepTrace trace;
-    RepeatedLines repeated;
-    const auto begin = [&](const Operation &step) {
-        if (isTraced)
-            trace.begin(step, scope);
-    };
-    const auto report = [&](const StepReport &done) {
-        warned = warned || !done.warnings.isEmpty();
-        if (isTraced)
-            trace.show(done, scope, explainer, console);
-        else
-            complainOfStep(done, file, repeated, explainer, console);
-    };
-    runTask(task, scope, report, begin);
-    const QStringList rest = repeated.rest();
-    for (const QString &line : rest)
-        console.complain(line);
+    StepMessages messages{run, explainer, console};
+    const SingleEnd end = runSteps(task, scope, messages);
+    if (!end.isComplete)
+        return end.status;
     printVariables(scope, options.values(RunOptions::print()), options.isSet(Options::json()),
                    console);
-    return warned && options.isSet(RunOptions::strict()) ? Warned : Success;
+    if (end.hasFailed)
+        return StepFailed;
+    return end.hasWarned && options.isSet(RunOptions::strict()) ? Warned : Success;
 }
 
 /// Returns a problem when both the task and the rows are to come from standard input.
@@ -98,12 +166,15 @@ std::optional<Problem> findSharedInput(const QCommandLineParser &options, const 
                                   "a file for one of them")};
 }
 
-int runOnRows(const Task &task, const QCommandLineParser &options, WarningExplainer &explainer,
-              const Console &console)
+int runOnRows(const Task &task, const QStringList &plugins, const QCommandLineParser &options,
+              WarningExplainer &explainer, const Console &console)
 {
-    const Result<RowRun> run = rowRunFromOptions(options, task);
-    if (run)
+    Result<RowRun> run = rowRunFromOptions(options, task);
+    if (run) {
+        run.value().plugins = plugins;
+        run.value().stepNames = stepNames(task, plugins);
         return runRows(task, run.value(), explainer, console);
+    }
     console.complain(run.problem().toString());
     return BadInput;
 }
@@ -142,6 +213,11 @@ QList<FileRole> RunCommand::files(const QCommandLineParser &options,
            RunOptions::files(options);
 }
 
+Result<double> RunCommand::timeoutSeconds(const QCommandLineParser &options) const
+{
+    return RunOptions::timeoutSeconds(options);
+}
+
 int RunCommand::runWith(const OperationCatalog &catalog, const QCommandLineParser &options,
                         const QStringList &arguments, Console &console) const
 {
@@ -161,7 +237,12 @@ int RunCommand::runWith(const OperationCatalog &catalog, const QCommandLineParse
     }
     const Result<QStringList> languages = chosenLanguages(options, chosenPlugins(options));
     WarningExplainer explainer(catalog, languages ? languages.value() : QStringList(), console);
+    const QStringList plugins = pluginsOfSteps(task.value(), catalog);
     if (RunOptions::asksForRows(options))
-        return runOnRows(task.value(), options, explainer, console);
-    return runOnce(task.value(), options, taskName(file), explainer, console);
+        return runOnRows(task.value(), plugins, options, explainer, console);
+    const QString name = taskName(file);
+    RunProgress::current().setSteps(name, stepNames(task.value(), plugins));
+    const SingleRun run{name, plugins, options.isSet(RunOptions::trace()),
+                        options.isSet(RunOptions::failFast())};
+    return runOnce(task.value(), run, options, explainer, console);
 }

@@ -11,6 +11,7 @@ public:
     QString example() const override;
     QStringList arguments() const override;
     QList<QCommandLineOption> options() const override;
+    Result<double> timeoutSeconds(const QCommandLineParser &options) const override;
 
 protected:
     QList<FileRole> files(const QCommandLineParser &options,

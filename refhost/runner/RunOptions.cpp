@@ -6,6 +6,7 @@
 #include "refhost/runner/FileRoles.h"
 #include "refhost/runner/Options.h"
 #include "refhost/runner/RunnerText.h"
+#include "refhost/runner/supervision/Supervisor.h"
 
 #include <QCommandLineParser>
 #include <QSet>
@@ -60,10 +61,9 @@ std::optional<Problem> findMisplacedOption(const QCommandLineParser &options)
     const bool rows = RunOptions::asksForRows(options);
     const QList<QCommandLineOption> misplaced =
         rows ? QList<QCommandLineOption>{RunOptions::trace()}
-             : QList<QCommandLineOption>{RunOptions::out(),      RunOptions::errors(),
-                                         RunOptions::failFast(), RunOptions::onError(),
-                                         RunOptions::skip(),     RunOptions::firstLine(),
-                                         RunOptions::jobs()};
+             : QList<QCommandLineOption>{RunOptions::out(),       RunOptions::errors(),
+                                         RunOptions::onError(),   RunOptions::skip(),
+                                         RunOptions::firstLine(), RunOptions::jobs()};
     for (const QCommandLineOption &option : misplaced) {
         if (options.isSet(option)) {
             return Problem{Problem::Reason::UnfitValue,
@@ -135,7 +135,8 @@ QCommandLineOption RunOptions::errors()
 
 QCommandLineOption RunOptions::failFast()
 {
-    return {QStringLiteral("fail-fast"), QStringLiteral("Stop at the first row that fails.")};
+    return {QStringLiteral("fail-fast"),
+            QStringLiteral("Stop at the first row or step that fails.")};
 }
 
 QCommandLineOption RunOptions::onError()
@@ -166,10 +167,18 @@ QCommandLineOption RunOptions::jobs()
             QStringLiteral("N"), QStringLiteral("1")};
 }
 
+QCommandLineOption RunOptions::timeout()
+{
+    return {QStringLiteral("timeout"),
+            QStringLiteral("End the run, with status 124, when a row takes longer than this; "
+                           "without rows when the run does."),
+            QStringLiteral("SECONDS")};
+}
+
 QList<QCommandLineOption> RunOptions::all()
 {
-    return {set(), print(),  Options::json(), trace(),   strict(), each(),      lines(),
-            out(), errors(), failFast(),      onError(), skip(),   firstLine(), jobs()};
+    return {set(),    print(),    Options::json(), trace(), strict(),    each(), lines(),  out(),
+            errors(), failFast(), onError(),       skip(),  firstLine(), jobs(), timeout()};
 }
 
 QString RunOptions::rowFile(const QCommandLineParser &options)
@@ -186,6 +195,26 @@ QList<FileRole> RunOptions::files(const QCommandLineParser &options)
     const QString lines = options.isSet(out()) ? optionRole(out()) : printed;
     return {readRole(rows, rowFile(options)), writtenRole(lines, options.value(out()), rows),
             writtenRole(optionRole(errors()), options.value(errors()))};
+}
+
+Result<double> RunOptions::timeoutSeconds(const QCommandLineParser &options)
+{
+    if (!options.isSet(timeout()))
+        return 0.0;
+    const auto unfit = [](const QString &message) {
+        return Problem{Problem::Reason::UnfitValue, {}, QStringLiteral("--timeout"), message};
+    };
+    if (!canLimitTime())
+        return unfit(RunnerText::tr("this system has no time limit for runs"));
+    constexpr double mostSeconds = 1e9;
+    const QString text = options.value(timeout());
+    bool isNumber = false;
+    const double seconds = text.toDouble(&isNumber);
+    if (!isNumber || !(seconds > 0) || seconds > mostSeconds) {
+        return unfit(RunnerText::tr("%1; expected a number of seconds greater than 0, such as 2.5")
+                         .arg(jsonText(text)));
+    }
+    return seconds;
 }
 
 bool RunOptions::asksForRows(const QCommandLineParser &options)

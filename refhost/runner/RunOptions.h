@@ -1,6 +1,6 @@
 #pragma once
 
-#include "refhost/engine/Problem.h"
+#include "refhost/engine/Result.h"
 
 #include <QCommandLineOption>
 #include <QList>
@@ -39,7 +39,7 @@ QCommandLineOption out();
 /// --errors FILE: where that goes which is wrong with rows.
 QCommandLineOption errors();
 
-/// --fail-fast: stop at the first row that fails.
+/// --fail-fast: stop at the first row or step that fails.
 QCommandLineOption failFast();
 
 /// --on-error ACTION: skip, or keep a line for each row that failed.
@@ -54,6 +54,9 @@ QCommandLineOption firstLine();
 /// --jobs N: the number of threads.
 QCommandLineOption jobs();
 
+/// --timeout SECONDS: end a run when a row of it, or without rows all of it, takes longer.
+QCommandLineOption timeout();
+
 /// All of them, with "--json".
 QList<QCommandLineOption> all();
 
@@ -62,6 +65,9 @@ QString rowFile(const QCommandLineParser &options);
 
 /// Returns the files that the options name: rows, lines and errors; without rows standard output.
 QList<FileRole> files(const QCommandLineParser &options);
+
+/// Returns the seconds of "--timeout", 0 without that option. A problem tells why it is no time.
+Result<double> timeoutSeconds(const QCommandLineParser &options);
 
 /// Whether the task is to run on rows.
 bool asksForRows(const QCommandLineParser &options);

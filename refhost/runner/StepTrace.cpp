@@ -104,6 +104,8 @@ void StepTrace::show(const StepReport &report, const VariableScope &scope,
         console.note(indent + QStringLiteral("warning: ") + oneLine(line));
         explainer.explain(report.step->typeId(), line, indent);
     }
+    if (report.failure)
+        console.note(indent + QStringLiteral("failed: it threw ") + oneLine(*report.failure));
     const double microseconds = static_cast<double>(report.nanoseconds) / 1000;
     console.note(indent + QStringLiteral("took %1 µs").arg(microseconds, 0, 'f', 1));
 }

@@ -53,7 +53,7 @@ int movedUp(int descriptor)
 
 } // namespace
 
-Interruption::Interruption()
+Interruption::Interruption(bool isSupervised)
 {
     if (pipe(wakeUp) == 0) {
         wakeUp[0] = movedUp(wakeUp[0]);
@@ -61,8 +61,10 @@ Interruption::Interruption()
     }
     struct sigaction action = {};
     action.sa_handler = requestEnd;
-    // The second time ends the program, which may be held up in a step or by who reads its output.
-    action.sa_flags = SA_RESTART | static_cast<int>(SA_RESETHAND);
+    action.sa_flags = SA_RESTART;
+    // The program may be held up in a step, or by the reader of its output.
+    if (!isSupervised)
+        action.sa_flags |= static_cast<int>(SA_RESETHAND);
     for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
         struct sigaction before = {};
         sigaction(signal, nullptr, &before);
@@ -70,6 +72,10 @@ Interruption::Interruption()
         if (before.sa_handler != SIG_IGN)
             sigaction(signal, &action, nullptr);
     }
+}
+
+void Interruption::ignoreBrokenPipes()
+{
     std::signal(SIGPIPE, SIG_IGN);
 }
 
@@ -101,11 +107,14 @@ void requestEnd(int)
 
 } // namespace
 
-Interruption::Interruption()
+Interruption::Interruption(bool isSupervised)
 {
+    Q_UNUSED(isSupervised)
     std::signal(SIGINT, requestEnd);
     std::signal(SIGTERM, requestEnd);
 }
+
+void Interruption::ignoreBrokenPipes() {}
 
 bool Interruption::waitForInput(int descriptor) const
 {

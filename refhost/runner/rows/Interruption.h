@@ -2,13 +2,16 @@
 
 #include <QtGlobal>
 
-/// Notes that the user or the system asks the program to end (Ctrl-C) instead of ending it at once;
-/// being asked again ends it. A reader of the output that goes away does not end the program any
-/// more. For the rest of the process; to be made once.
+/// Notes signals that ask the program to end (Ctrl-C) instead of ending it at once; a second one
+/// ends it, unless another process supervises this one and ends it in time. For the rest of the
+/// process; to be made once.
 class Interruption
 {
 public:
-    Interruption();
+    explicit Interruption(bool isSupervised = false);
+
+    /// Makes a write to a pipe without a reader fail instead of ending the process.
+    static void ignoreBrokenPipes();
 
     /// Whether there was such a wish. From any thread.
     bool requested() const;

@@ -51,3 +51,11 @@ void ProgressLine::clear()
     std::fputs("\r\x1b[K", stderr);
     std::fflush(stderr);
 }
+
+void ProgressLine::clearLine()
+{
+    if (!isTerminal(stderr))
+        return;
+    std::fputs("\r\x1b[K", stderr);
+    std::fflush(stderr);
+}

@@ -18,6 +18,9 @@ public:
     /// Takes the line away, so that something else can be written.
     void clear();
 
+    /// Takes away a line that another process may have shown.
+    static void clearLine();
+
 private:
     bool m_isWanted;
     bool m_isShown = false;

@@ -5,6 +5,7 @@
 #include "refhost/runner/rows/Interruption.h"
 #include "refhost/runner/rows/RowBatch.h"
 #include "refhost/runner/rows/RowSource.h"
+#include "refhost/runner/supervision/RunProgress.h"
 
 #include <cstring>
 #include <utility>
@@ -50,6 +51,7 @@ RowBatchRunner::RowBatchRunner(Task task, const RowFormat &format, bool stopsAtF
     , m_format(format)
     , m_stopsAtFailure(stopsAtFailure)
     , m_interruption(interruption)
+    , m_progress(RunProgress::ofThisThread())
 {
 }
 
@@ -103,18 +105,31 @@ void RowBatchRunner::runRow(const QByteArray &row, qint64 line, RowBatchOutcome 
             outcome.output += '\n';
         return;
     }
-    if (m_batchHasNul && hasNul(row)) {
+    const RowTally before = outcome.tally;
+    m_progress.beginRow(line);
+    if (m_batchHasNul && hasNul(row))
         fail(row, line, nulCharacter(row, line), outcome);
-        return;
-    }
-    const RowOutcome result = m_runner.run(row, line);
+    else
+        addResult(m_runner.run(row, line), row, line, outcome);
+    m_progress.endRow(outcome.tally - before);
+}
+
+void RowBatchRunner::addResult(const RowOutcome &result, const QByteArray &row, qint64 line,
+                               RowBatchOutcome &outcome) const
+{
     if (result.problem) {
         fail(row, line, *result.problem, outcome);
         return;
     }
     ++outcome.tally.rows;
-    outcome.tally.warnings += result.warnings.size();
+    outcome.tally.warnings += result.warnings.size() - result.failedSteps;
+    outcome.tally.failedSteps += result.failedSteps;
     for (const StepWarning &warning : result.warnings)
         outcome.notes.append({line, std::nullopt, {}, warning});
+    if (m_stopsAtFailure && result.failedSteps > 0) {
+        ++outcome.tally.failed;
+        outcome.isLast = true;
+        return;
+    }
     outcome.output += result.output + '\n';
 }

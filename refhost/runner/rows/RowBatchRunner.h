@@ -5,6 +5,7 @@
 
 class Interruption;
 struct RowBatch;
+struct ThreadProgress;
 
 /// Runs a task on the rows of batches. Made, used and deleted on one thread.
 class RowBatchRunner
@@ -23,9 +24,13 @@ private:
     void runRow(const QByteArray &row, qint64 line, RowBatchOutcome &outcome);
     bool isNoRow(const QByteArray &row) const;
 
+    void addResult(const RowOutcome &result, const QByteArray &row, qint64 line,
+                   RowBatchOutcome &outcome) const;
+
     RowRunner m_runner;
     RowFormat m_format;
     bool m_stopsAtFailure;
     bool m_batchHasNul = false;
     const Interruption &m_interruption;
+    ThreadProgress &m_progress;
 };

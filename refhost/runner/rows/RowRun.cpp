@@ -14,6 +14,7 @@
 #include "refhost/runner/rows/RowFormatGuess.h"
 #include "refhost/runner/rows/RowSink.h"
 #include "refhost/runner/rows/RowSource.h"
+#include "refhost/runner/supervision/RunProgress.h"
 
 #include <QCommandLineParser>
 
@@ -189,10 +190,16 @@ RowEnd endOf(const RowRun &run, const RowSink &sink, const std::optional<Problem
         return {ReaderGone, QStringLiteral("nobody reads the output any more"), false, {}};
     if (problem)
         return {BadInput, QStringLiteral("stopped"), false, problem};
+    const bool hasFailedSteps = sink.tally().failedSteps > 0;
     if (run.stopsAtFailure && sink.tally().failed > 0)
-        return {RowFailed, QStringLiteral("stopped at the first that failed"), true, {}};
+        return {hasFailedSteps ? StepFailed : RowFailed,
+                QStringLiteral("stopped at the first that failed"),
+                true,
+                {}};
     if (interrupted)
         return {Interrupted, QStringLiteral("interrupted"), false, {}};
+    if (hasFailedSteps)
+        return {StepFailed, {}, true, {}};
     if (sink.tally().failed > 0)
         return {RowFailed, {}, true, {}};
     return {run.isStrict && sink.tally().warnings > 0 ? Warned : Success, {}, true, {}};
@@ -200,11 +207,7 @@ RowEnd endOf(const RowRun &run, const RowSink &sink, const std::optional<Problem
 
 QString summary(const RowTally &tally, qint64 skipped, const RowEnd &end, const RowRun &run)
 {
-    QString text = QStringLiteral("%1 rows: %2 done, %3 failed; %4 warnings")
-                       .arg(tally.rows)
-                       .arg(tally.rows - tally.failed)
-                       .arg(tally.failed)
-                       .arg(tally.warnings);
+    QString text = tally.toString();
     if (skipped > 0)
         text += RunnerText::tr("; %1 skipped").arg(skipped);
     const bool outIsMissing = !end.reason.isEmpty() || end.problem;
@@ -225,6 +228,7 @@ Result<RowRun> rowRunFromOptions(const QCommandLineParser &options, const Task &
     run.errors = options.value(RunOptions::errors());
     run.stopsAtFailure = options.isSet(RunOptions::failFast());
     run.isStrict = options.isSet(RunOptions::strict());
+    run.format.endsAtFailedStep = run.stopsAtFailure;
     run.format.lineVariable = options.value(RunOptions::lines());
     run.format.printed = options.values(RunOptions::print());
     run.format.plainText = options.isSet(RunOptions::lines()) && run.format.printed.size() == 1 &&
@@ -259,15 +263,26 @@ int runRows(const Task &task, const RowRun &run, WarningExplainer &explainer,
         console.complain(problem->toString());
         return BadInput;
     }
+    RunProgress &progress = RunProgress::current();
+    progress.setSteps(source.name(), run.stepNames);
+    progress.hasRows = true;
+    if (!out.isStandardOutput())
+        progress.output.set(run.out.toUtf8());
+    for (const QByteArray &file : {out.temporaryFile(), errors.temporaryFile()}) {
+        if (!file.isEmpty())
+            progress.addTemporaryFile(file);
+    }
     // Until here, where files such as pipes may have to be waited for, Ctrl-C ends the program.
-    Interruption interruption;
+    Interruption interruption(progress.isSupervised);
+    Interruption::ignoreBrokenPipes();
     qint64 skipped = 0;
     problem = begin(run, interruption, source, skipped);
     if (problem) {
         console.complain(problem->toString());
         return BadInput;
     }
-    RowSink sink(source.name(), out, hasErrors ? &errors : nullptr, explainer, console);
+    RowSink sink(source.name(), out, hasErrors ? &errors : nullptr, run.plugins, explainer,
+                 console);
     problem = runAll(task, run, interruption, source, sink);
     sink.finish();
     source.close();

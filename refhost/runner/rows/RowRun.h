@@ -4,6 +4,7 @@
 #include "refhost/engine/RowFormat.h"
 
 #include <QString>
+#include <QStringList>
 
 class Console;
 class QCommandLineParser;
@@ -22,6 +23,8 @@ struct RowRun
     qint64 firstLine = 1;  ///< the number of the first line of the file
     bool isStrict = false; ///< a warning counts as a failure for the exit status
     RowFormat format;
+    QStringList plugins;   ///< file name of the plug-in of each step
+    QStringList stepNames; ///< what messages call each step
 };
 
 /// Reads the options; a problem names the first that cannot be used.

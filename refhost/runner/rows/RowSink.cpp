@@ -3,7 +3,9 @@
 #include "refhost/engine/Excerpt.h"
 #include "refhost/runner/Console.h"
 #include "refhost/runner/RunnerText.h"
+#include "refhost/runner/StepNames.h"
 #include "refhost/runner/WarningExplainer.h"
+#include "refhost/runner/supervision/RunProgress.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -22,7 +24,7 @@ void addRow(QJsonObject &json, const QByteArray &row)
 }
 
 /// The note as a line of a file of errors.
-QByteArray noteLine(const RowNote &note)
+QByteArray noteLine(const RowNote &note, const QStringList &plugins)
 {
     QJsonObject json{{QStringLiteral("line"), note.line}};
     if (note.problem) {
@@ -31,7 +33,10 @@ QByteArray noteLine(const RowNote &note)
     } else {
         json.insert(QStringLiteral("step"), note.warning.step);
         json.insert(QStringLiteral("type"), note.warning.typeId);
-        json.insert(QStringLiteral("warning"), note.warning.line);
+        if (note.warning.isFailure)
+            json.insert(QStringLiteral("plugin"), plugins.value(note.warning.step));
+        json.insert(note.warning.isFailure ? QStringLiteral("threw") : QStringLiteral("warning"),
+                    note.warning.line);
     }
     return QJsonDocument(json).toJson(QJsonDocument::Compact) + '\n';
 }
@@ -52,10 +57,11 @@ QString rowText(const QByteArray &row)
 } // namespace
 
 RowSink::RowSink(const QString &source, OutputFile &out, OutputFile *errors,
-                 WarningExplainer &explainer, const Console &console)
+                 const QStringList &plugins, WarningExplainer &explainer, const Console &console)
     : m_source(source)
     , m_out(out)
     , m_errors(errors)
+    , m_plugins(plugins)
     , m_explainer(explainer)
     , m_console(console)
     , m_progress(!out.isStandardOutput())
@@ -71,32 +77,45 @@ bool RowSink::take(const RowBatchOutcome &outcome)
         m_progress.clear();
     for (const RowNote &note : outcome.notes) {
         if (m_errors)
-            write(*m_errors, noteLine(note));
+            write(*m_errors, noteLine(note, m_plugins));
         else
             complain(note);
     }
     m_tally += outcome.tally;
+    RunProgress::current().writtenRows = m_tally.rows;
     m_progress.show(m_tally);
     return !m_problem && !outcome.isLast;
 }
 
 void RowSink::write(OutputFile &file, const QByteArray &bytes)
 {
-    if (!m_problem && !bytes.isEmpty())
-        m_problem = file.write(bytes);
+    if (m_problem || bytes.isEmpty())
+        return;
+    RunProgress &progress = RunProgress::current();
+    progress.isWriting = true;
+    m_problem = file.write(bytes);
+    progress.isWriting = false;
+}
+
+/// Returns what a message says of a warning or a failed step.
+QString RowSink::warningLine(const RowNote &note) const
+{
+    const StepWarning &warning = note.warning;
+    const QString place = QStringLiteral("line %1").arg(note.line);
+    if (warning.isFailure)
+        return failureMessage(place, warning.step, warning.typeId, m_plugins.value(warning.step),
+                              warning.line);
+    return QStringLiteral("%1: steps[%2] (%3): %4")
+        .arg(place, QString::number(warning.step), warning.typeId, warning.line);
 }
 
 void RowSink::complain(const RowNote &note)
 {
-    const QString line =
-        note.problem ? note.problem->toString()
-                     : QStringLiteral("line %1: steps[%2] (%3): %4")
-                           .arg(QString::number(note.line), QString::number(note.warning.step),
-                                note.warning.typeId, note.warning.line);
+    const QString line = note.problem ? note.problem->toString() : warningLine(note);
     if (!m_repeated.isShown(note.problem ? -1 : note.warning.step, line))
         return;
     m_console.complain(inSource(note.problem ? line + rowText(note.row) : line));
-    if (!note.problem)
+    if (!note.problem && !note.warning.isFailure)
         m_explainer.explainKindOnce(note.warning.typeId, note.warning.line);
 }
 

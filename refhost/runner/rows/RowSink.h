@@ -6,6 +6,8 @@
 #include "refhost/runner/rows/ProgressLine.h"
 #include "refhost/runner/rows/RowBatchOutcome.h"
 
+#include <QStringList>
+
 #include <optional>
 
 class Console;
@@ -18,8 +20,9 @@ public:
     /// `source` is how messages call the input. The lines go to `out`; the notes go to the file
     /// `errors`, or to standard error when it is null, there with an explanation below the first
     /// warning line of each kind. All of them have to outlive the sink.
-    RowSink(const QString &source, OutputFile &out, OutputFile *errors, WarningExplainer &explainer,
-            const Console &console);
+    /// `plugins` has the file name of the plug-in of each step.
+    RowSink(const QString &source, OutputFile &out, OutputFile *errors, const QStringList &plugins,
+            WarningExplainer &explainer, const Console &console);
 
     /// Takes the next outcome. False when no more are wanted.
     bool take(const RowBatchOutcome &outcome);
@@ -37,12 +40,14 @@ private:
     Q_DISABLE_COPY_MOVE(RowSink)
 
     void write(OutputFile &file, const QByteArray &bytes);
+    QString warningLine(const RowNote &note) const;
     void complain(const RowNote &note);
     QString inSource(const QString &line) const;
 
     QString m_source;
     OutputFile &m_out;
     OutputFile *m_errors;
+    QStringList m_plugins;
     WarningExplainer &m_explainer;
     const Console &m_console;
     ProgressLine m_progress;

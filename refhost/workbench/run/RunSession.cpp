@@ -10,7 +10,6 @@
 #include <QElapsedTimer>
 #include <QScopedValueRollback>
 
-#include <exception>
 #include <memory>
 
 namespace {
@@ -180,7 +179,7 @@ void RunSession::runNext()
     m_cursor.moveOn(m_document.state());
     {
         const QScopedValueRollback<bool> busy(m_busy, true);
-        StepRecord record = perform(*step.operation);
+        StepRecord record = perform(*step.operation, row);
         record.step = step.id;
         record.row = row;
         record.operation = step.operation;
@@ -189,7 +188,7 @@ void RunSession::runNext()
     obey();
 }
 
-StepRecord RunSession::perform(const Operation &original)
+StepRecord RunSession::perform(const Operation &original, int row)
 {
     const std::unique_ptr<Operation> operation(original.clone(nullptr));
     VariableScope &variables = m_variables.scope();
@@ -197,15 +196,11 @@ StepRecord RunSession::perform(const Operation &original)
     record.summary = operation->toString();
     record.operands = m_operands.read(*operation, variables);
     record.time = QDateTime::currentDateTime();
-    try {
-        const StepReport report = runStep(*operation, variables);
-        record.nanoseconds = report.nanoseconds;
-        record.warnings = report.warnings;
-    } catch (const std::exception &exception) {
-        // Forbidden to a step. But it shall not take the window, with all that is not saved, along.
-        const QString reason = QString::fromLocal8Bit(exception.what());
-        record.warnings.append(tr("步骤抛出了异常：%1").arg(reason));
-    }
+    const StepReport report = runStep(*operation, variables, row);
+    record.nanoseconds = report.nanoseconds;
+    record.warnings = report.warnings;
+    if (report.failure)
+        record.warnings.append(tr("步骤抛出了异常：%1").arg(*report.failure));
     const QStringList written = variables.writtenNames();
     for (const QString &name : written)
         record.writes.append({name, variables.get(name)});

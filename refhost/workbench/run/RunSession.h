@@ -92,7 +92,7 @@ private:
     void runSlice();
     void proceed();
     void runNext();
-    StepRecord perform(const Operation &original);
+    StepRecord perform(const Operation &original, int row);
     void obey();
     void halt(State state, Halt reason);
     void setState(State state);

@@ -1,0 +1,96 @@
+#include "refhost/runner/supervision/CrashMark.h"
+
+#include "refhost/runner/supervision/RunProgress.h"
+
+#include <QtGlobal>
+
+#include <cstdlib>
+
+#ifdef Q_OS_UNIX
+#    include <csignal>
+#    include <memory>
+#    include <new>
+#endif
+
+// The sanitizers have handlers of their own, which report the crash.
+#if defined(__has_feature)
+#    if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
+#        define OPRUN_SANITIZED
+#    endif
+#elif defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#    define OPRUN_SANITIZED
+#endif
+
+#if defined(Q_OS_UNIX) && !defined(OPRUN_SANITIZED)
+
+namespace {
+
+constexpr std::size_t stackSize = 32768;
+
+/// The stack, which the thread gives back at its end.
+class SignalStack
+{
+public:
+    SignalStack()
+        : m_bytes(new (std::nothrow) char[stackSize])
+    {
+        stack_t stack = {};
+        stack.ss_sp = m_bytes.get();
+        stack.ss_size = stackSize;
+        if (m_bytes)
+            sigaltstack(&stack, nullptr);
+    }
+    ~SignalStack()
+    {
+        stack_t none = {};
+        none.ss_flags = SS_DISABLE;
+        sigaltstack(&none, nullptr);
+    }
+
+private:
+    Q_DISABLE_COPY_MOVE(SignalStack)
+
+    std::unique_ptr<char[]> m_bytes;
+};
+
+/// Its disposition is the default again when it is called, so that raising ends the process.
+void markAndRaise(int signal)
+{
+    RunProgress::markThisThread();
+    raise(signal);
+}
+
+void handleCrashes()
+{
+    struct sigaction action = {};
+    action.sa_handler = markAndRaise;
+    action.sa_flags = SA_ONSTACK | SA_NODEFER | static_cast<int>(SA_RESETHAND);
+    for (const int signal : {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT, SIGTRAP, SIGSYS})
+        sigaction(signal, &action, nullptr);
+}
+
+} // namespace
+
+void useOwnSignalStack()
+{
+    static thread_local const SignalStack stack;
+}
+
+#else
+
+namespace {
+
+void handleCrashes() {}
+
+} // namespace
+
+void useOwnSignalStack() {}
+
+#endif
+
+void markCrashes()
+{
+    handleCrashes();
+    std::atexit(&RunProgress::markThisThread);
+    std::at_quick_exit(&RunProgress::markThisThread);
+}
