@@ -67,13 +67,11 @@ int differences(const CatalogEntry &entry, const OperationPage &page,
                 const OperationCatalog &catalog, const Console &console)
 {
     int count = 0;
+    const QString plugin = QFileInfo(catalog.pluginFile(entry.typeId)).fileName();
+    const QStringList step{stepName(entry.typeId, plugin)};
     for (const WorkedExample &example : page.examples) {
         const ExampleOutcome expected{example.result, example.warnings, {}, {}};
-        RunProgress::current().activity.set(
-            RunnerText::tr("running the example \"%1\" of %2")
-                .arg(example.name,
-                     stepName(entry.typeId, QFileInfo(catalog.pluginFile(entry.typeId)).fileName()))
-                .toUtf8());
+        RunProgress::current().setSteps(RunnerText::tr("example \"%1\"").arg(example.name), step);
         const Result<ExampleOutcome> actual = runExample(example, entry.typeId, catalog);
         if (actual && shown(actual.value()) == shown(expected))
             continue;

@@ -4,8 +4,10 @@
 #include "Operation.h"
 #include "VariableScope.h"
 
+#include <QFile>
 #include <QObject>
 
+#include <chrono>
 #include <cstdlib>
 #include <functional>
 #include <map>
@@ -15,9 +17,12 @@
 
 #include <unistd.h>
 
-/// What a step or a plug-in must not do, by name.
+/// What a step or a plug-in must not do, by name. A file "begun" in the current folder tells that
+/// it begins.
 inline void commitFault(const QString &fault)
 {
+    if (!fault.isEmpty())
+        QFile("begun").open(QIODevice::WriteOnly);
     static const std::map<QString, std::function<void()>> faults{
         {"throw", [] { throw std::runtime_error("disk on fire"); }},
         {"throw int", [] { throw 42; }},
@@ -48,13 +53,14 @@ inline void commitFault(const QString &fault)
         found->second();
 }
 
-/// A step that copies the variable "n" to "r", and commits its fault afterwards, if its property
-/// "row" is empty or the value of "n".
+/// A step that copies the variable "n" to "r" or another, and commits its fault afterwards, if its
+/// property "row" is empty or the value of "n".
 class FaultyOperation : public Operation
 {
     Q_OBJECT
     Q_PROPERTY(QString fault READ fault WRITE setFault)
     Q_PROPERTY(QString row READ row WRITE setRow)
+    Q_PROPERTY(QString resultVar READ resultVar WRITE setResultVar)
 
 public:
     using Operation::Operation;
@@ -63,6 +69,9 @@ public:
     void setFault(const QString &fault) { m_fault = fault; }
     QString row() const { return m_row; }
     void setRow(const QString &row) { m_row = row; }
+
+    QString resultVar() const { return m_resultVar; }
+    void setResultVar(const QString &name) { m_resultVar = name; }
 
     QString root() const override { return "faulty"; }
     QString typeId() const override { return "faulty.step"; }
@@ -76,7 +85,7 @@ public:
         if (!scope)
             return;
         const QString number = scope->get("n").toString();
-        scope->set("r", number);
+        scope->set(m_resultVar, number);
         if (m_row.isEmpty() || m_row == number)
             commitFault(m_fault);
     }
@@ -85,12 +94,14 @@ public:
         auto *copy = new FaultyOperation(parent);
         copy->m_fault = m_fault;
         copy->m_row = m_row;
+        copy->m_resultVar = m_resultVar;
         return copy;
     }
 
 private:
     QString m_fault;
     QString m_row;
+    QString m_resultVar = "r";
 };
 
 /// A plug-in with that step. It commits the fault that the environment variable FAULT_AT_LOAD

@@ -3,6 +3,7 @@
 
 #include <QFile>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QtTest>
 
 #include <csignal>
@@ -42,7 +43,8 @@ private Q_SLOTS:
     void answersEachRowAtOnce();
     void interrupted_data();
     void interrupted();
-    void askedTwice();
+    void stuckReader_data();
+    void stuckReader();
     void readerGoesAway();
     void stopsWithoutMoreInput();
     void errorsThatCannotBeWritten();
@@ -583,7 +585,6 @@ void RowsTest::refuses_data()
         row(qPrintable(option), {option, "2"},
             option + ": is about rows; expected \"--each FILE\", too");
     }
-    row("fail fast", {"--fail-fast"}, "--fail-fast: is about rows; expected \"--each FILE\", too");
 }
 
 void RowsTest::refuses()
@@ -710,15 +711,35 @@ void RowsTest::readerGoesAway()
     }
 }
 
-/// Held up by a reader that takes nothing, it does not come to look at the wish to end.
-void RowsTest::askedTwice()
+void RowsTest::stuckReader_data()
 {
+    QTest::addColumn<QString>("requests");
+    QTest::addColumn<QString>("seconds");
+
+    QTest::newRow("asked once") << "kill -TERM $filter"
+                                << "1";
+    QTest::newRow("asked twice") << "kill -TERM $filter; sleep 0.5; kill -TERM $filter"
+                                 << "[01].*";
+}
+
+/// A reader that takes nothing does not keep the program from its end.
+void RowsTest::stuckReader()
+{
+    QFETCH(QString, requests);
+    QFETCH(QString, seconds);
+
     const auto outcome = m_folder->runShell(
-        "mkfifo stuck; sleep 20 < stuck & sleeper=$!;"
-        "yes {} | $OPRUN run task.json --each - > stuck 2> /dev/null & filter=$!;"
-        "sleep 1; kill -TERM $filter; sleep 0.5; kill -TERM $filter; wait $filter; echo $?;"
-        "kill $sleeper");
-    QCOMPARE(outcome.out, QString("143\n"));
+        "rm -f stuck; mkfifo stuck; sleep 60 < stuck & sleeper=$!;"
+        "yes {} | $OPRUN run task.json --each - > stuck 2> stuck-errors & filter=$!;"
+        "sleep 2;" +
+        requests + "; wait $filter; echo $?; kill $sleeper");
+    QCOMPARE(outcome.out, QString("130\n"));
+    const QString errors = QString::fromUtf8(m_folder->read("stuck-errors"));
+    const QRegularExpression expected(
+        "^oprun: oprun was ended by force while it wrote its output, " + seconds +
+        " s after the interruption\noprun: (\\d+) rows: \\1 done, 0 failed; 0 warnings; "
+        "interrupted; the last \\d+ of them are not printed\n$");
+    QVERIFY2(expected.match(errors).hasMatch(), qPrintable(errors));
 }
 
 void RowsTest::stopsWithoutMoreInput()

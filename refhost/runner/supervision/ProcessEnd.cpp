@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <csignal>
+#include <vector>
 
 namespace {
 
@@ -41,17 +42,22 @@ QString placeOf(const ThreadProgress &thread, const RunProgress &run)
     return name.isEmpty() ? text : text + RunnerText::tr(" (%1)").arg(name);
 }
 
-/// The places of all threads for which `isMeant` holds.
+/// The places of all threads for which `isMeant` holds, in the order of their rows.
 template <typename Predicate>
 QStringList places(const RunProgress &run, const Predicate &isMeant)
 {
-    QStringList all;
+    std::vector<const ThreadProgress *> threads;
     const int count = std::min(run.threadCount.load(), static_cast<int>(RunProgress::mostThreads));
     for (int i = 0; i < count; ++i) {
         const ThreadProgress &thread = run.threads.at(static_cast<std::size_t>(i));
         if (isMeant(i, thread))
-            all.append(placeOf(thread, run));
+            threads.push_back(&thread);
     }
+    std::sort(threads.begin(), threads.end(),
+              [](const auto *left, const auto *right) { return left->line < right->line; });
+    QStringList all;
+    for (const ThreadProgress *thread : threads)
+        all.append(placeOf(*thread, run));
     return all;
 }
 
