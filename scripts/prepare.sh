@@ -5,7 +5,8 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 # What building and testing needs, as Debian and Ubuntu call it.
 needed_packages=(g++ cmake ninja-build qtbase5-dev qtbase5-dev-tools libqt5svg5-dev qttools5-dev
-                 qttools5-dev-tools qttranslations5-l10n fonts-dejavu-core groff-base abigail-tools)
+                 qttools5-dev-tools qttranslations5-l10n rapidjson-dev fonts-dejavu-core groff-base
+                 abigail-tools)
 
 as_root() {
     if [[ $EUID -eq 0 ]]; then
@@ -21,7 +22,7 @@ install_packages() {
     if ! command -v apt-get >/dev/null; then
         echo "-- not a Debian or Ubuntu system. These are needed, under the names they have here:"
         echo "   a C++17 compiler, CMake 3.25 or later, Ninja, Qt 5.15 (Core, Gui, Svg, Test,"
-        echo "   Widgets, LinguistTools), a font"
+        echo "   Widgets, LinguistTools), RapidJSON, a font"
         return
     fi
     local missing=() package

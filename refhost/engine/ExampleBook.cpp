@@ -6,7 +6,6 @@
 #include "refhost/engine/PluginFolder.h"
 
 #include <QFileInfo>
-#include <QJsonArray>
 
 #include <optional>
 
@@ -14,53 +13,68 @@ namespace {
 
 using Reason = Problem::Reason;
 
+/// A kind of JSON value, as messages name it.
+struct Kind
+{
+    QString name;
+    bool (JsonValue::*isOf)() const; ///< null where any kind will do
+};
+
 /// The members an object may have, with what each has to be.
-using Members = QMap<QString, QJsonValue::Type>;
+using Members = QMap<QString, Kind>;
+
+Kind stringKind()
+{
+    return {QStringLiteral("a string"), &JsonValue::isString};
+}
+
+Kind arrayKind()
+{
+    return {QStringLiteral("an array"), &JsonValue::isArray};
+}
+
+Kind objectKind()
+{
+    return {QStringLiteral("an object"), &JsonValue::isObject};
+}
 
 Members pageMembers()
 {
-    return {{QStringLiteral("about"), QJsonValue::String},
-            {QStringLiteral("examples"), QJsonValue::Array}};
+    return {{QStringLiteral("about"), stringKind()}, {QStringLiteral("examples"), arrayKind()}};
 }
 
-/// Those of an example, less "result", which may be anything.
+QString resultKey()
+{
+    return QStringLiteral("result");
+}
+
+/// Those of an example.
 Members exampleMembers()
 {
-    return {{QStringLiteral("name"), QJsonValue::String},
-            {QStringLiteral("variables"), QJsonValue::Object},
-            {QStringLiteral("settings"), QJsonValue::Object},
-            {QStringLiteral("into"), QJsonValue::String},
-            {QStringLiteral("warnings"), QJsonValue::Array}};
-}
-
-QString kindName(QJsonValue::Type kind)
-{
-    switch (kind) {
-    case QJsonValue::String:
-        return QStringLiteral("a string");
-    case QJsonValue::Array:
-        return QStringLiteral("an array");
-    default:
-        return QStringLiteral("an object");
-    }
+    return {{QStringLiteral("name"), stringKind()},
+            {QStringLiteral("variables"), objectKind()},
+            {QStringLiteral("settings"), objectKind()},
+            {QStringLiteral("into"), stringKind()},
+            {resultKey(), {{}, nullptr}},
+            {QStringLiteral("warnings"), arrayKind()}};
 }
 
 /// The first member that is unknown or of the wrong kind.
-std::optional<Problem> findFault(const QJsonObject &json, const Members &members,
+std::optional<Problem> findFault(const JsonObject &json, const Members &members,
                                  const QString &place)
 {
-    for (auto member = json.begin(); member != json.end(); ++member) {
-        const QString memberPlace = place + QLatin1Char('.') + member.key();
-        if (!members.contains(member.key())) {
+    for (const JsonMember &member : json) {
+        const QString memberPlace = place + QLatin1Char('.') + member.key;
+        if (!members.contains(member.key)) {
             const QString known = QStringList(members.keys()).join(QLatin1String(", "));
             return Problem{Reason::UnknownKey,
                            {},
                            memberPlace,
                            QStringLiteral("unknown key; expected %1").arg(known)};
         }
-        const QJsonValue::Type kind = members.value(member.key());
-        if (member->type() != kind)
-            return wrongKind(memberPlace, *member, kindName(kind));
+        const Kind kind = members.value(member.key);
+        if (kind.isOf && !(member.value.*kind.isOf)())
+            return wrongKind(memberPlace, member.value, kind.name);
     }
     return std::nullopt;
 }
@@ -68,13 +82,13 @@ std::optional<Problem> findFault(const QJsonObject &json, const Members &members
 /// The members that running an example adds itself.
 std::optional<Problem> findReserved(const WorkedExample &example, const QString &place)
 {
-    if (example.settings.contains(QLatin1String("type"))) {
+    if (example.settings.contains(QStringLiteral("type"))) {
         return Problem{Reason::UnknownKey,
                        {},
                        place + QStringLiteral(".settings.type"),
                        QStringLiteral("the type is that of the page; expected properties")};
     }
-    if (example.variables.contains(QLatin1String("result"))) {
+    if (example.variables.contains(QStringLiteral("result"))) {
         return Problem{Reason::UnknownKey,
                        {},
                        place + QStringLiteral(".variables.result"),
@@ -83,39 +97,37 @@ std::optional<Problem> findReserved(const WorkedExample &example, const QString 
     return std::nullopt;
 }
 
-Result<WorkedExample> exampleFromJson(const QJsonValue &value, const QString &place)
+Result<WorkedExample> exampleFromJson(const JsonValue &value, const QString &place)
 {
     if (!value.isObject())
-        return wrongKind(place, value, kindName(QJsonValue::Object));
-    QJsonObject json = value.toObject();
+        return wrongKind(place, value, objectKind().name);
+    const JsonObject json = value.toObject();
     WorkedExample example;
-    const QString resultKey = QStringLiteral("result");
-    example.result = json.value(resultKey);
-    json.remove(resultKey);
+    example.result = json.value(resultKey());
     if (auto fault = findFault(json, exampleMembers(), place))
         return *fault;
-    example.name = json.value(QLatin1String("name")).toString();
-    example.variables = json.value(QLatin1String("variables")).toObject();
-    example.settings = json.value(QLatin1String("settings")).toObject();
-    example.into = json.value(QLatin1String("into")).toString(QStringLiteral("string"));
-    const QJsonArray warnings = json.value(QLatin1String("warnings")).toArray();
-    for (const QJsonValue &line : warnings)
+    example.name = json.value(QStringLiteral("name")).toString();
+    example.variables = json.value(QStringLiteral("variables")).toObject();
+    example.settings = json.value(QStringLiteral("settings")).toObject();
+    example.into = json.value(QStringLiteral("into")).toString(QStringLiteral("string"));
+    const JsonArray warnings = json.value(QStringLiteral("warnings")).toArray();
+    for (const JsonValue &line : warnings)
         example.warnings.append(line.toString());
     if (auto fault = findReserved(example, place))
         return *fault;
     return example;
 }
 
-Result<OperationPage> pageFromJson(const QJsonValue &value, const QString &place)
+Result<OperationPage> pageFromJson(const JsonValue &value, const QString &place)
 {
     if (!value.isObject())
-        return wrongKind(place, value, kindName(QJsonValue::Object));
-    const QJsonObject json = value.toObject();
+        return wrongKind(place, value, objectKind().name);
+    const JsonObject json = value.toObject();
     if (auto fault = findFault(json, pageMembers(), place))
         return *fault;
     OperationPage page;
-    page.about = json.value(QLatin1String("about")).toString();
-    const QJsonArray examples = json.value(QLatin1String("examples")).toArray();
+    page.about = json.value(QStringLiteral("about")).toString();
+    const JsonArray examples = json.value(QStringLiteral("examples")).toArray();
     for (int i = 0; i < examples.size(); ++i) {
         const Result<WorkedExample> example =
             exampleFromJson(examples.at(i), QStringLiteral("%1.examples[%2]").arg(place).arg(i));
@@ -128,20 +140,20 @@ Result<OperationPage> pageFromJson(const QJsonValue &value, const QString &place
 
 } // namespace
 
-std::optional<Problem> ExampleBook::add(const QJsonObject &json, const OperationCatalog &catalog)
+std::optional<Problem> ExampleBook::add(const JsonObject &json, const OperationCatalog &catalog)
 {
-    for (auto member = json.begin(); member != json.end(); ++member) {
-        if (!catalog.find(member.key())) {
+    for (const JsonMember &member : json) {
+        if (!catalog.find(member.key)) {
             return Problem{Reason::UnknownType,
                            {},
-                           member.key(),
+                           member.key,
                            QStringLiteral("no such operation; expected %1")
                                .arg(catalog.typeIds().join(QLatin1String(", ")))};
         }
-        const Result<OperationPage> page = pageFromJson(*member, member.key());
+        const Result<OperationPage> page = pageFromJson(member.value, member.key);
         if (!page)
             return page.problem();
-        m_pages.insert(member.key(), page.value());
+        m_pages.insert(member.key, page.value());
     }
     return std::nullopt;
 }
@@ -153,7 +165,7 @@ Result<ExampleBook> ExampleBook::read(const OperationCatalog &catalog)
         const QString file = fileBeside(plugin.path(), QStringLiteral(".examples.json"));
         if (!QFileInfo::exists(file))
             continue;
-        const Result<QJsonObject> json = readJsonObject(file);
+        const Result<JsonObject> json = readJsonObject(file);
         if (!json)
             return json.problem();
         if (auto problem = book.add(json.value(), catalog)) {

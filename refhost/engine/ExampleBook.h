@@ -2,7 +2,6 @@
 
 #include "refhost/engine/WorkedExample.h"
 
-#include <QJsonObject>
 #include <QMap>
 
 #include <optional>
@@ -30,7 +29,7 @@ public:
     OperationPage page(const QString &typeId) const { return m_pages.value(typeId); }
 
 private:
-    std::optional<Problem> add(const QJsonObject &json, const OperationCatalog &catalog);
+    std::optional<Problem> add(const JsonObject &json, const OperationCatalog &catalog);
 
     QMap<QString, OperationPage> m_pages;
 };

@@ -12,7 +12,6 @@
 #include "Operation.h"
 
 #include <QFileInfo>
-#include <QJsonArray>
 #include <QRegularExpression>
 
 #include <array>
@@ -41,7 +40,7 @@ QString memberPlace(const QString &place, const QString &key)
     return place.isEmpty() ? key : place + QLatin1Char('.') + key;
 }
 
-Problem unfit(const QString &place, const QJsonValue &found, const QString &expected)
+Problem unfit(const QString &place, const JsonValue &found, const QString &expected)
 {
     return {Problem::Reason::UnfitValue,
             {},
@@ -66,7 +65,7 @@ struct FactPlace
     QString place; ///< of the value
 };
 
-MaybeProblem readPurpose(const QJsonValue &value, const FactPlace &at, PropertyFacts &facts)
+MaybeProblem readPurpose(const JsonValue &value, const FactPlace &at, PropertyFacts &facts)
 {
     QStringList words;
     for (const PurposeWord &candidate : purposeWords) {
@@ -83,7 +82,7 @@ MaybeProblem readPurpose(const QJsonValue &value, const FactPlace &at, PropertyF
     return unfit(at.place, value, choiceText(words));
 }
 
-MaybeProblem readSearchedIn(const QJsonValue &value, const FactPlace &at, PropertyFacts &facts)
+MaybeProblem readSearchedIn(const JsonValue &value, const FactPlace &at, PropertyFacts &facts)
 {
     const PropertySchema *const source = at.schema.property(value.toString());
     if (!source || roleOf(*source) != PropertyRole::Text || source->name == at.property.name)
@@ -92,22 +91,22 @@ MaybeProblem readSearchedIn(const QJsonValue &value, const FactPlace &at, Proper
     return std::nullopt;
 }
 
-MaybeProblem readNumber(const QJsonValue &value, const FactPlace &at, PropertyRole role,
+MaybeProblem readNumber(const JsonValue &value, const FactPlace &at, PropertyRole role,
                         const QString &expected, std::optional<double> &number)
 {
-    if (!value.isDouble() || roleOf(at.property) != role)
+    if (!value.isNumber() || roleOf(at.property) != role)
         return unfit(at.place, value, expected);
     number = value.toDouble();
     return std::nullopt;
 }
 
-MaybeProblem readWhenEmpty(const QJsonValue &value, const FactPlace &at, PropertyFacts &facts)
+MaybeProblem readWhenEmpty(const JsonValue &value, const FactPlace &at, PropertyFacts &facts)
 {
     return readNumber(value, at, PropertyRole::Number,
                       EngineText::tr("a number, at a numeric operand"), facts.whenEmpty);
 }
 
-MaybeProblem readWhenNotFound(const QJsonValue &value, const FactPlace &at, PropertyFacts &facts)
+MaybeProblem readWhenNotFound(const JsonValue &value, const FactPlace &at, PropertyFacts &facts)
 {
     return readNumber(value, at, PropertyRole::Result,
                       EngineText::tr("a number, at the result variable"), facts.whenNotFound);
@@ -116,7 +115,7 @@ MaybeProblem readWhenNotFound(const QJsonValue &value, const FactPlace &at, Prop
 struct FactKey
 {
     const char *key;
-    MaybeProblem (*read)(const QJsonValue &, const FactPlace &, PropertyFacts &);
+    MaybeProblem (*read)(const JsonValue &, const FactPlace &, PropertyFacts &);
 };
 
 constexpr std::array<FactKey, 4> factKeys{{
@@ -126,7 +125,7 @@ constexpr std::array<FactKey, 4> factKeys{{
     {"whenNotFound", readWhenNotFound},
 }};
 
-MaybeProblem readFact(const QString &key, const QJsonValue &value, const FactPlace &at,
+MaybeProblem readFact(const QString &key, const JsonValue &value, const FactPlace &at,
                       PropertyFacts &facts)
 {
     QStringList known;
@@ -138,14 +137,14 @@ MaybeProblem readFact(const QString &key, const QJsonValue &value, const FactPla
     return unknownKey(at.place, known);
 }
 
-MaybeProblem readProperty(const QJsonValue &json, const FactPlace &at, PropertyFacts &facts)
+MaybeProblem readProperty(const JsonValue &json, const FactPlace &at, PropertyFacts &facts)
 {
     if (!json.isObject())
         return wrongKind(at.place, json, EngineText::tr("an object"));
-    const QJsonObject keys = json.toObject();
-    for (auto member = keys.begin(); member != keys.end(); ++member) {
-        const FactPlace inner{at.schema, at.property, memberPlace(at.place, member.key())};
-        if (auto problem = readFact(member.key(), *member, inner, facts))
+    const JsonObject keys = json.toObject();
+    for (const JsonMember &member : keys) {
+        const FactPlace inner{at.schema, at.property, memberPlace(at.place, member.key)};
+        if (auto problem = readFact(member.key, member.value, inner, facts))
             return problem;
     }
     return std::nullopt;
@@ -189,44 +188,45 @@ QString surplusMarker(const QString &text, int parts)
     return {};
 }
 
-Result<WarningExplanation> explanationFromJson(const QJsonValue &value, const QString &place)
+Result<WarningExplanation> explanationFromJson(const JsonValue &value, const QString &place)
 {
     if (!value.isObject())
         return wrongKind(place, value, EngineText::tr("an object"));
-    QJsonObject json = value.toObject();
+    const JsonObject json = value.toObject();
     const QString lineKey = QStringLiteral("line");
-    const QJsonValue line = json.take(lineKey);
+    const JsonValue line = json.value(lineKey);
     if (!line.isString() || line.toString().isEmpty())
         return wrongKind(memberPlace(place, lineKey), line, EngineText::tr("a string"));
     WarningExplanation explanation{piecesOf(line.toString()), {}};
-    for (auto member = json.begin(); member != json.end(); ++member) {
-        const QString textPlace = memberPlace(place, member.key());
-        if (!isLanguageName(member.key()))
+    for (const JsonMember &member : json) {
+        if (member.key == lineKey)
+            continue;
+        const QString textPlace = memberPlace(place, member.key);
+        if (!isLanguageName(member.key))
             return unknownKey(textPlace, {lineKey, EngineText::tr("the name of a language")});
-        if (!member->isString())
-            return wrongKind(textPlace, *member, EngineText::tr("a string"));
-        const QString surplus = surplusMarker(member->toString(), explanation.pieces.size() - 1);
+        if (!member.value.isString())
+            return wrongKind(textPlace, member.value, EngineText::tr("a string"));
+        const QString surplus =
+            surplusMarker(member.value.toString(), explanation.pieces.size() - 1);
         if (!surplus.isEmpty())
             return unfit(textPlace, surplus, EngineText::tr("a marker that the line has, too"));
-        explanation.texts.insert(member.key(), member->toString());
+        explanation.texts.insert(member.key, member.value.toString());
     }
     const QString english = QStringLiteral("en");
     if (!explanation.texts.contains(english)) {
-        return wrongKind(memberPlace(place, english), QJsonValue(QJsonValue::Undefined),
-                         EngineText::tr("a string"));
+        return wrongKind(memberPlace(place, english), JsonValue(), EngineText::tr("a string"));
     }
     return explanation;
 }
 
-Result<QList<WarningExplanation>> explanationsFromJson(const QJsonValue &value,
-                                                       const QString &place)
+Result<QList<WarningExplanation>> explanationsFromJson(const JsonValue &value, const QString &place)
 {
     QList<WarningExplanation> explanations;
     if (value.isUndefined())
         return explanations;
     if (!value.isArray())
         return wrongKind(place, value, EngineText::tr("an array"));
-    const QJsonArray array = value.toArray();
+    const JsonArray array = value.toArray();
     for (int i = 0; i < array.size(); ++i) {
         auto explanation =
             explanationFromJson(array.at(i), QStringLiteral("%1[%2]").arg(place).arg(i));
@@ -308,29 +308,29 @@ QStringList typesOf(const LoadedPlugin &plugin)
 
 } // namespace
 
-std::optional<Problem> FactBook::addOperations(const QJsonObject &json,
+std::optional<Problem> FactBook::addOperations(const JsonObject &json,
                                                const OperationCatalog &catalog,
                                                const QStringList &typeIds)
 {
-    for (auto member = json.begin(); member != json.end(); ++member) {
-        const QString place = QStringLiteral("operations.") + member.key();
-        if (!typeIds.contains(member.key())) {
+    for (const JsonMember &member : json) {
+        const QString place = QStringLiteral("operations.") + member.key;
+        if (!typeIds.contains(member.key)) {
             return Problem{Problem::Reason::UnknownType,
                            {},
                            place,
                            EngineText::tr("no such operation; expected %1").arg(listText(typeIds))};
         }
-        if (!member->isObject())
-            return wrongKind(place, *member, EngineText::tr("an object"));
-        const OperationSchema schema(*catalog.find(member.key())->prototype);
-        const QJsonObject properties = member->toObject();
-        for (auto property = properties.begin(); property != properties.end(); ++property) {
-            const PropertySchema *const known = schema.property(property.key());
-            const QString propertyPlace = memberPlace(place, property.key());
+        if (!member.value.isObject())
+            return wrongKind(place, member.value, EngineText::tr("an object"));
+        const OperationSchema schema(*catalog.find(member.key)->prototype);
+        const JsonObject properties = member.value.toObject();
+        for (const JsonMember &property : properties) {
+            const PropertySchema *const known = schema.property(property.key);
+            const QString propertyPlace = memberPlace(place, property.key);
             if (!known)
                 return unknownKey(propertyPlace, schema.propertyNames());
-            PropertyFacts &facts = m_properties[member.key()][property.key()];
-            if (auto problem = readProperty(*property, {schema, *known, propertyPlace}, facts))
+            PropertyFacts &facts = m_properties[member.key][property.key];
+            if (auto problem = readProperty(property.value, {schema, *known, propertyPlace}, facts))
                 return problem;
         }
     }
@@ -344,7 +344,7 @@ Result<FactBook> FactBook::read(const OperationCatalog &catalog)
         const QString file = fileBeside(plugin.path(), QStringLiteral(".facts.json"));
         if (!QFileInfo::exists(file))
             continue;
-        const Result<QJsonObject> json = readJsonObject(file);
+        const Result<JsonObject> json = readJsonObject(file);
         if (!json)
             return json.problem();
         if (auto problem = book.add(json.value(), catalog, typesOf(plugin))) {
@@ -355,7 +355,7 @@ Result<FactBook> FactBook::read(const OperationCatalog &catalog)
     return book;
 }
 
-std::optional<Problem> FactBook::add(const QJsonObject &json, const OperationCatalog &catalog,
+std::optional<Problem> FactBook::add(const JsonObject &json, const OperationCatalog &catalog,
                                      const QStringList &typeIds)
 {
     const QString operationsKey = QStringLiteral("operations");
@@ -364,7 +364,7 @@ std::optional<Problem> FactBook::add(const QJsonObject &json, const OperationCat
         if (key != operationsKey && key != warningsKey)
             return unknownKey(key, {operationsKey, warningsKey});
     }
-    const QJsonValue operations = json.value(operationsKey);
+    const JsonValue operations = json.value(operationsKey);
     if (!operations.isUndefined() && !operations.isObject())
         return wrongKind(operationsKey, operations, EngineText::tr("an object"));
     if (auto problem = addOperations(operations.toObject(), catalog, typeIds))

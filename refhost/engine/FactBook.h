@@ -1,9 +1,9 @@
 #pragma once
 
+#include "refhost/engine/JsonTypes.h"
 #include "refhost/engine/Result.h"
 
 #include <QHash>
-#include <QJsonObject>
 #include <QList>
 #include <QMap>
 #include <QString>
@@ -70,9 +70,9 @@ public:
     QList<WarningExplanation> explanations(const QString &typeId) const;
 
 private:
-    std::optional<Problem> add(const QJsonObject &json, const OperationCatalog &catalog,
+    std::optional<Problem> add(const JsonObject &json, const OperationCatalog &catalog,
                                const QStringList &typeIds);
-    std::optional<Problem> addOperations(const QJsonObject &json, const OperationCatalog &catalog,
+    std::optional<Problem> addOperations(const JsonObject &json, const OperationCatalog &catalog,
                                          const QStringList &typeIds);
 
     QHash<QString, QHash<QString, PropertyFacts>> m_properties;

@@ -2,9 +2,8 @@
 
 #include "refhost/engine/EngineText.h"
 #include "refhost/engine/Excerpt.h"
+#include "refhost/engine/JsonReader.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
 #include <QVariantList>
 
 #include <algorithm>
@@ -13,10 +12,21 @@
 
 namespace {
 
-bool isInt(double number)
+template <typename Number>
+bool isInt(Number number)
 {
     using Limits = std::numeric_limits<int>;
-    return number == std::trunc(number) && number >= Limits::min() && number <= Limits::max();
+    return number >= Limits::min() && number <= Limits::max();
+}
+
+/// The number as an int, invalid when it is none.
+QVariant intFromJson(const JsonValue &json)
+{
+    if (json.isInteger())
+        return isInt(json.toInteger()) ? static_cast<int>(json.toInteger()) : QVariant();
+    const double number = json.toDouble();
+    const bool fits = json.isDouble() && number == std::trunc(number) && isInt(number);
+    return fits ? static_cast<int>(number) : QVariant();
 }
 
 Problem unfit(const QString &found, const QString &expected)
@@ -55,13 +65,13 @@ bool isSpecialNumber(const QString &text)
 }
 
 /// A list element: invalid when JSON has something there that no list holds.
-QVariant elementFromJson(const QJsonValue &json);
+QVariant elementFromJson(const JsonValue &json);
 
-QVariant listFromJson(const QJsonArray &array)
+QVariant listFromJson(const JsonArray &array)
 {
     QVariantList list;
     list.reserve(array.size());
-    for (const QJsonValue &json : array) {
+    for (const JsonValue &json : array) {
         const QVariant element = elementFromJson(json);
         if (!element.isValid())
             return {};
@@ -70,7 +80,7 @@ QVariant listFromJson(const QJsonArray &array)
     return list;
 }
 
-QVariant elementFromJson(const QJsonValue &json)
+QVariant elementFromJson(const JsonValue &json)
 {
     if (json.isArray())
         return listFromJson(json.toArray());
@@ -78,27 +88,41 @@ QVariant elementFromJson(const QJsonValue &json)
         return json.toString();
     if (json.isBool())
         return json.toBool();
-    if (!json.isDouble())
-        return {};
-    // Qt keeps whole numbers of up to 64 bits apart from the others here.
-    return isInt(json.toDouble()) ? QVariant(json.toInt()) : json.toVariant();
+    if (json.isInteger())
+        return isInt(json.toInteger()) ? intFromJson(json) : json.toInteger();
+    return json.isDouble() ? json.toDouble() : QVariant();
 }
 
-bool isTable(const QJsonArray &array)
+/// The first whole number in the array, or in arrays in it, that no list holds; undefined when
+/// there is none.
+JsonValue findWideInteger(const JsonArray &array)
 {
-    return std::all_of(array.begin(), array.end(), [](const auto &row) { return row.isArray(); });
+    for (const JsonValue &json : array) {
+        if (json.isWideInteger())
+            return json;
+        const JsonValue inner = findWideInteger(json.toArray());
+        if (!inner.isUndefined())
+            return inner;
+    }
+    return {};
+}
+
+bool isTable(const JsonArray &array)
+{
+    return std::all_of(array.begin(), array.end(),
+                       [](const JsonValue &row) { return row.isArray(); });
 }
 
 /// The value when it fits the type, else invalid.
-QVariant fittingValue(const QJsonValue &json, VarType type)
+QVariant fittingValue(const JsonValue &json, VarType type)
 {
     switch (type) {
     case VarType::Int:
-        return json.isDouble() && isInt(json.toDouble()) ? json.toInt() : QVariant();
+        return intFromJson(json);
     case VarType::Double:
         if (json.isString() && isSpecialNumber(json.toString()))
             return json.toString().toDouble();
-        return json.isDouble() ? json.toDouble() : QVariant();
+        return json.isNumber() ? json.toDouble() : QVariant();
     case VarType::String:
         return json.isString() ? json.toString() : QVariant();
     case VarType::Bool:
@@ -115,67 +139,49 @@ QVariant fittingValue(const QJsonValue &json, VarType type)
 }
 
 /// What a user's text stands for in JSON, undefined when it is no such text.
-QJsonValue jsonFromText(const QString &text, VarType type)
+JsonValue jsonFromText(const QString &text, VarType type)
 {
     if (type == VarType::String || (type == VarType::Double && isSpecialNumber(text)))
         return text;
-    // Wrapped, since a JSON text of its own is an array or an object in Qt.
-    const QByteArray wrapped = '[' + text.toUtf8() + ']';
-    const QJsonArray array = QJsonDocument::fromJson(wrapped).array();
-    return array.size() == 1 ? array.first() : QJsonValue(QJsonValue::Undefined);
+    const Result<JsonValue> json = parseJson(text);
+    return json ? json.value() : JsonValue();
 }
 
-/// Whether JSON has the character as it is.
-bool isPlain(QChar character)
+/// Why `json`, which `found` shows, does not fit the type.
+Problem unfitValue(const JsonValue &json, const QString &found, VarType type)
 {
-    return character >= QLatin1Char(' ') && character != QLatin1Char('"') &&
-           character != QLatin1Char('\\') && !character.isSurrogate();
-}
-
-void appendString(QByteArray &text, const QString &string)
-{
-    if (!std::all_of(string.begin(), string.end(), isPlain)) {
-        text += jsonText(string).toUtf8();
-        return;
-    }
-    text += '"';
-    text += string.toUtf8();
-    text += '"';
-}
-
-void appendList(QByteArray &text, const QVariantList &list)
-{
-    char before = '[';
-    for (const QVariant &element : list) {
-        text += before;
-        appendJsonText(text, element);
-        before = ',';
-    }
-    text += list.isEmpty() ? "[]" : "]";
+    const JsonValue wide = findWideInteger(json.toArray());
+    if (wide.isUndefined() || (type != VarType::List && type != VarType::Table))
+        return unfit(found, expectation(type));
+    return unfit(wide.wideDigits(),
+                 EngineText::tr("a whole number from -9223372036854775808 to 9223372036854775807, "
+                                "or a string such as %1")
+                     .arg(jsonText(wide.wideDigits())));
 }
 
 } // namespace
 
-Result<QVariant> variantFromJson(const QJsonValue &json, VarType type)
+Result<QVariant> variantFromJson(const JsonValue &json, VarType type)
 {
     const QVariant value = fittingValue(json, type);
     if (!value.isValid())
-        return unfit(jsonText(json), expectation(type));
+        return unfitValue(json, jsonText(json), type);
     return value;
 }
 
 Result<QVariant> variantFromText(const QString &text, VarType type)
 {
-    const QVariant value = fittingValue(jsonFromText(text, type), type);
+    const JsonValue json = jsonFromText(text, type);
+    const QVariant value = fittingValue(json, type);
     if (!value.isValid())
-        return unfit(jsonText(text), expectation(type));
+        return unfitValue(json, jsonText(text), type);
     return value;
 }
 
-QJsonValue variantToJson(const QVariant &value)
+JsonValue variantToJson(const QVariant &value)
 {
     if (value.canConvert<QVariantList>()) {
-        QJsonArray array;
+        JsonArray array;
         const auto elements = value.value<QVariantList>();
         for (const QVariant &element : elements)
             array.append(variantToJson(element));
@@ -190,7 +196,7 @@ QJsonValue variantToJson(const QVariant &value)
     return value.toString();
 }
 
-Problem wrongKind(const QString &place, const QJsonValue &found, const QString &expected)
+Problem wrongKind(const QString &place, const JsonValue &found, const QString &expected)
 {
     if (found.isUndefined()) {
         return {Problem::Reason::MissingKey,
@@ -202,22 +208,4 @@ Problem wrongKind(const QString &place, const QJsonValue &found, const QString &
             {},
             place,
             EngineText::tr("%1; expected %2").arg(excerpt(jsonText(found)), expected)};
-}
-
-QString jsonText(const QJsonValue &json)
-{
-    const QByteArray wrapped = QJsonDocument(QJsonArray{json}).toJson(QJsonDocument::Compact);
-    return QString::fromUtf8(wrapped.mid(1, wrapped.size() - 2));
-}
-
-void appendJsonText(QByteArray &text, const QVariant &value)
-{
-    if (value.type() == QVariant::String)
-        appendString(text, value.toString());
-    else if (value.type() == QVariant::List)
-        appendList(text, value.toList());
-    else if (value.type() == QVariant::Int)
-        text += QByteArray::number(value.toInt());
-    else
-        text += jsonText(variantToJson(value)).toUtf8();
 }

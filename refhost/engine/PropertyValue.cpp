@@ -6,6 +6,8 @@
 
 #include <QLocale>
 
+#include <cmath>
+
 namespace {
 
 QString quotedList(const QStringList &texts)
@@ -16,7 +18,7 @@ QString quotedList(const QStringList &texts)
     return listText(quoted);
 }
 
-Problem unfit(const QJsonValue &json, const QString &expected,
+Problem unfit(const JsonValue &json, const QString &expected,
               Problem::Reason reason = Problem::Reason::UnfitValue)
 {
     return {reason, {}, {}, EngineText::tr("%1; expected %2").arg(jsonText(json), expected)};
@@ -27,18 +29,29 @@ bool isNumericOperand(const PropertySchema &schema)
     return schema.editor.startsWith(QLatin1String("NUMVAR:"));
 }
 
-Result<QVariant> operandFromJson(const QJsonValue &json, const PropertySchema &schema)
+/// The number as an operand, without an exponent.
+QString numberText(const JsonValue &number)
+{
+    if (!number.isDouble())
+        return jsonText(number);
+    // Qt writes both zeros alike.
+    const bool isMinusZero = number.toDouble() == 0 && std::signbit(number.toDouble());
+    return isMinusZero ? QStringLiteral("-0")
+                       : QString::number(number.toDouble(), 'f', QLocale::FloatingPointShortest);
+}
+
+Result<QVariant> operandFromJson(const JsonValue &json, const PropertySchema &schema)
 {
     if (json.isString())
         return QVariant(json.toString());
     if (!isNumericOperand(schema))
         return unfit(json, EngineText::tr("a string"));
-    if (!json.isDouble())
+    if (!json.isNumber())
         return unfit(json, EngineText::tr("a number or a string"));
-    return QVariant(QString::number(json.toDouble(), 'f', QLocale::FloatingPointShortest));
+    return QVariant(numberText(json));
 }
 
-Result<QVariant> choiceFromJson(const QJsonValue &json, const PropertySchema &schema)
+Result<QVariant> choiceFromJson(const JsonValue &json, const PropertySchema &schema)
 {
     if (json.isString()) {
         const int index = schema.choices.indexOf(json.toString());
@@ -57,7 +70,7 @@ Result<QVariant> choiceFromJson(const QJsonValue &json, const PropertySchema &sc
 
 } // namespace
 
-Result<QVariant> propertyFromJson(const QJsonValue &json, const PropertySchema &schema)
+Result<QVariant> propertyFromJson(const JsonValue &json, const PropertySchema &schema)
 {
     if (!schema.choices.isEmpty())
         return choiceFromJson(json, schema);
@@ -73,8 +86,8 @@ Result<QVariant> propertyFromJson(const QJsonValue &json, const PropertySchema &
                            .arg(schema.typeName));
 }
 
-QJsonValue propertyToJson(const QVariant &value, const PropertySchema &schema)
+JsonValue propertyToJson(const QVariant &value, const PropertySchema &schema)
 {
     const QString label = schema.choices.value(value.toInt());
-    return label.isEmpty() ? variantToJson(value) : QJsonValue(label);
+    return label.isEmpty() ? variantToJson(value) : JsonValue(label);
 }

@@ -1,14 +1,13 @@
 #include "refhost/engine/RowRunner.h"
 
 #include "refhost/engine/Excerpt.h"
-#include "refhost/engine/JsonFile.h"
+#include "refhost/engine/JsonReader.h"
 #include "refhost/engine/JsonValue.h"
 #include "refhost/engine/StepGuard.h"
 #include "refhost/engine/TaskProblem.h"
 
 #include "Operation.h"
 
-#include <QJsonObject>
 #include <QTextCodec>
 
 #include <new>
@@ -101,20 +100,25 @@ std::optional<Problem> RowRunner::take(const QByteArray &row, qint64 line)
 
 std::optional<Problem> RowRunner::takeObject(const QByteArray &row, qint64 line)
 {
-    const Result<QJsonObject> object = parseJsonObject(row, {}, line);
-    if (!object)
-        return object.problem();
-    const QJsonObject &values = object.value();
-    for (auto member = values.begin(); member != values.end(); ++member) {
-        const QString name = member.key();
-        const VarType type = m_scope.typeOf(name);
-        if (type == VarType::None)
-            return unknownVariable(lineName(line), name, m_scope.names());
-        const Result<QVariant> value = variantFromJson(member.value(), type);
-        if (!value)
-            return memberProblem(value.problem(), name, line);
-        m_scope.set(name, value.value());
-    }
+    std::optional<Problem> unfit;
+    const auto take = [&](const QString &name, const JsonValue &value) {
+        if (!unfit)
+            unfit = takeMember(name, value, line);
+    };
+    const std::optional<Problem> malformed = parseJsonMembers(row, line, take);
+    return malformed ? malformed : unfit;
+}
+
+std::optional<Problem> RowRunner::takeMember(const QString &name, const JsonValue &json,
+                                             qint64 line)
+{
+    const VarType type = m_scope.typeOf(name);
+    if (type == VarType::None)
+        return unknownVariable(lineName(line), name, m_scope.names());
+    const Result<QVariant> value = variantFromJson(json, type);
+    if (!value)
+        return memberProblem(value.problem(), name, line);
+    m_scope.set(name, value.value());
     return std::nullopt;
 }
 
@@ -171,7 +175,7 @@ Result<QByteArray> RowRunner::output(qint64 line) const
 Result<QByteArray> RowRunner::plainOutput(qint64 line) const
 {
     const QString &name = m_format.printed.first();
-    const QJsonValue value = variantToJson(m_scope.get(name));
+    const JsonValue value = variantToJson(m_scope.get(name));
     const QByteArray text = (value.isString() ? value.toString() : jsonText(value)).toUtf8();
     if (text.contains('\n')) {
         return unfitRow(line, QStringLiteral("the value of %1 has a line break; expected one line, "

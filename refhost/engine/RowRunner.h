@@ -1,5 +1,6 @@
 #pragma once
 
+#include "refhost/engine/JsonTypes.h"
 #include "refhost/engine/MessageCapture.h"
 #include "refhost/engine/Result.h"
 #include "refhost/engine/RowFormat.h"
@@ -47,6 +48,7 @@ private:
     void reset();
     std::optional<Problem> take(const QByteArray &row, qint64 line);
     std::optional<Problem> takeObject(const QByteArray &row, qint64 line);
+    std::optional<Problem> takeMember(const QString &name, const JsonValue &json, qint64 line);
     std::optional<Problem> takeText(const QByteArray &row, qint64 line);
     void runSteps(RowOutcome &outcome);
     void runStep(const Operation &step, int index, RowOutcome &outcome);

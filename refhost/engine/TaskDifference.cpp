@@ -2,6 +2,7 @@
 
 #include "refhost/engine/EngineText.h"
 #include "refhost/engine/ExactValue.h"
+#include "refhost/engine/JsonWriter.h"
 #include "refhost/engine/OperationSchema.h"
 #include "refhost/engine/Task.h"
 #include "refhost/engine/TaskProblem.h"
@@ -9,7 +10,6 @@
 #include "Operation.h"
 
 #include <QDataStream>
-#include <QHash>
 
 namespace {
 
@@ -44,12 +44,16 @@ std::optional<Problem> lostOfVariables(const Task &task, const Task &back)
                         .arg(QString::number(task.variables.size()),
                              QString::number(back.variables.size())));
     }
-    QHash<QString, QVariant> backValues;
-    for (const TaskVariable &variable : back.variables)
-        backValues.insert(variable.name, variable.value);
-    for (const TaskVariable &variable : task.variables) {
-        const QString place = variablePlace(variable.name) + QStringLiteral(".value");
-        if (auto problem = lostOfValue(variable.value, backValues.value(variable.name), place))
+    for (int i = 0; i < task.variables.size(); ++i) {
+        const TaskVariable &variable = task.variables.at(i);
+        const TaskVariable &backVariable = back.variables.at(i);
+        const QString place = variablePlace(variable.name);
+        if (backVariable.name != variable.name) {
+            return lost(place, EngineText::tr("from JSON %1 would come back in its place")
+                                   .arg(jsonText(backVariable.name)));
+        }
+        if (auto problem =
+                lostOfValue(variable.value, backVariable.value, place + QStringLiteral(".value")))
             return problem;
     }
     return std::nullopt;

@@ -21,7 +21,7 @@ Problem emptyName(const QString &place)
         Problem::Reason::UnfitValue, {}, place, EngineText::tr("an empty name; expected a name")};
 }
 
-Problem unknownType(const QString &place, const QJsonValue &found, const QStringList &known)
+Problem unknownType(const QString &place, const JsonValue &found, const QStringList &known)
 {
     const QString expected =
         known.isEmpty() ? EngineText::tr("an operation, but none is loaded") : listText(known);

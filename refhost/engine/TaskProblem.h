@@ -1,8 +1,8 @@
 #pragma once
 
+#include "refhost/engine/JsonTypes.h"
 #include "refhost/engine/Problem.h"
 
-#include <QJsonValue>
 #include <QString>
 #include <QStringList>
 
@@ -20,7 +20,7 @@ Problem emptyName(const QString &place);
 // Of a name that is not known, a problem lists the names that are, and suggests the nearest one.
 
 /// That `found`, at `place`, names none of the `known` types, or is missing.
-Problem unknownType(const QString &place, const QJsonValue &found, const QStringList &known);
+Problem unknownType(const QString &place, const JsonValue &found, const QStringList &known);
 
 /// Returns the problem with the key `name` of the object at `place`, which is none of `known`.
 Problem unknownKey(const QString &place, const QString &name, const QStringList &known);

@@ -2,7 +2,7 @@
 
 #include "refhost/engine/EngineText.h"
 #include "refhost/engine/FileBytes.h"
-#include "refhost/engine/JsonFile.h"
+#include "refhost/engine/JsonReader.h"
 #include "refhost/engine/JsonValue.h"
 #include "refhost/engine/OperationCatalog.h"
 #include "refhost/engine/OperationSchema.h"
@@ -13,8 +13,6 @@
 #include "refhost/engine/VarTypeName.h"
 
 #include "Operation.h"
-
-#include <QJsonArray>
 
 namespace {
 
@@ -35,27 +33,27 @@ QString typePlace(const QString &place)
 }
 
 /// The first key of `json` that nobody reads.
-std::optional<Problem> findUnknownKey(const QJsonObject &json, const QStringList &known,
+std::optional<Problem> findUnknownKey(const JsonObject &json, const QStringList &known,
                                       const QString &place)
 {
-    for (auto member = json.begin(); member != json.end(); ++member) {
-        if (!known.contains(member.key()))
-            return unknownKey(place, member.key(), known);
+    for (const JsonMember &member : json) {
+        if (!known.contains(member.key))
+            return unknownKey(place, member.key, known);
     }
     return std::nullopt;
 }
 
-Result<TaskVariable> readVariable(const QString &name, const QJsonValue &json, const QString &place)
+Result<TaskVariable> readVariable(const QString &name, const JsonValue &json, const QString &place)
 {
     if (name.isEmpty())
         return emptyName(place);
     if (!json.isObject())
         return wrongKind(place, json, EngineText::tr("an object with \"type\" and \"value\""));
-    const QJsonObject settings = json.toObject();
+    const JsonObject settings = json.toObject();
     const QString valueKey = QStringLiteral("value");
     if (const auto problem = findUnknownKey(settings, {typeKey(), valueKey}, place))
         return *problem;
-    const QJsonValue typeWord = settings.value(typeKey());
+    const JsonValue typeWord = settings.value(typeKey());
     TaskVariable variable{name, varTypeFromName(typeWord.toString()), {}};
     if (variable.type == VarType::None)
         return unknownType(typePlace(place), typeWord, varTypeNames());
@@ -68,16 +66,16 @@ Result<TaskVariable> readVariable(const QString &name, const QJsonValue &json, c
     return variable;
 }
 
-std::optional<Problem> readVariables(const QJsonValue &json, const QString &place, Task &task)
+std::optional<Problem> readVariables(const JsonValue &json, const QString &place, Task &task)
 {
     if (json.isUndefined())
         return std::nullopt;
     if (!json.isObject())
         return wrongKind(place, json, EngineText::tr("an object of variables"));
-    const QJsonObject variables = json.toObject();
-    for (auto member = variables.begin(); member != variables.end(); ++member) {
+    const JsonObject variables = json.toObject();
+    for (const JsonMember &member : variables) {
         const Result<TaskVariable> variable =
-            readVariable(member.key(), member.value(), place + QLatin1Char('.') + member.key());
+            readVariable(member.key, member.value, place + QLatin1Char('.') + member.key);
         if (!variable)
             return variable.problem();
         task.variables.append(variable.value());
@@ -85,19 +83,21 @@ std::optional<Problem> readVariables(const QJsonValue &json, const QString &plac
     return std::nullopt;
 }
 
-/// Sets the properties of a step that is still at its defaults.
-std::optional<Problem> applySettings(Operation &step, const QJsonObject &settings,
+/// Sets the properties of a step that is still at its defaults; the key "type" is no property.
+std::optional<Problem> applySettings(Operation &step, const JsonObject &settings,
                                      const QString &place)
 {
     const OperationSchema schema(step);
-    for (auto member = settings.begin(); member != settings.end(); ++member) {
-        const QString propertyPlace = place + QLatin1Char('.') + member.key();
-        const PropertySchema *const property = schema.property(member.key());
+    for (const JsonMember &member : settings) {
+        if (member.key == typeKey())
+            continue;
+        const QString propertyPlace = place + QLatin1Char('.') + member.key;
+        const PropertySchema *const property = schema.property(member.key);
         if (!property) {
-            return unknownProperty(propertyPlace, member.key(), step.typeId(),
+            return unknownProperty(propertyPlace, member.key, step.typeId(),
                                    schema.propertyNames());
         }
-        const Result<QVariant> value = propertyFromJson(member.value(), *property);
+        const Result<QVariant> value = propertyFromJson(member.value, *property);
         if (!value)
             return at(propertyPlace, value.problem());
         step.setProperty(property->name.toLatin1().constData(), value.value());
@@ -129,13 +129,13 @@ Result<Task> TaskReader::readBytes(const QByteArray &bytes) const
 {
     if (isPackedTask(bytes))
         return unpackTask(bytes, m_catalog);
-    const Result<QJsonObject> json = parseJsonObject(bytes, {});
+    const Result<JsonObject> json = parseJsonObject(bytes, {});
     if (!json)
         return json.problem();
     return read(json.value());
 }
 
-Result<Task> TaskReader::read(const QJsonObject &json) const
+Result<Task> TaskReader::read(const JsonObject &json) const
 {
     const QString variablesKey = QStringLiteral("variables");
     const QString stepsKey = QStringLiteral("steps");
@@ -149,12 +149,12 @@ Result<Task> TaskReader::read(const QJsonObject &json) const
     return task;
 }
 
-std::optional<Problem> TaskReader::readSteps(const QJsonValue &json, const QString &place,
+std::optional<Problem> TaskReader::readSteps(const JsonValue &json, const QString &place,
                                              Task &task) const
 {
     if (!json.isArray())
         return wrongKind(place, json, EngineText::tr("an array of steps"));
-    const QJsonArray list = json.toArray();
+    const JsonArray list = json.toArray();
     for (int i = 0; i < list.size(); ++i) {
         auto step = readStep(list.at(i), QStringLiteral("%1[%2]").arg(place).arg(i));
         if (!step)
@@ -164,15 +164,13 @@ std::optional<Problem> TaskReader::readSteps(const QJsonValue &json, const QStri
     return std::nullopt;
 }
 
-Result<std::unique_ptr<Operation>> TaskReader::readStep(const QJsonValue &json,
+Result<std::unique_ptr<Operation>> TaskReader::readStep(const JsonValue &json,
                                                         const QString &place) const
 {
     if (!json.isObject())
         return wrongKind(place, json, EngineText::tr("an object with \"type\" and properties"));
-    QJsonObject settings = json.toObject();
-    // Not with "take": up to Qt 5.15.2 that takes it out of the caller's object, too.
-    const QJsonValue typeId = settings.value(typeKey());
-    settings.remove(typeKey());
+    const JsonObject settings = json.toObject();
+    const JsonValue typeId = settings.value(typeKey());
     const CatalogEntry *const entry = m_catalog.find(typeId.toString());
     if (!entry)
         return unknownType(typePlace(place), typeId, m_catalog.typeIds());

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "refhost/engine/JsonTypes.h"
 #include "refhost/engine/Result.h"
 #include "refhost/engine/Task.h"
 
 #include <QByteArray>
-#include <QJsonObject>
 #include <QString>
 
 #include <memory>
@@ -32,12 +32,11 @@ public:
     Result<Task> readBytes(const QByteArray &bytes) const;
 
     /// Reads a task from an object already parsed; problems name no file.
-    Result<Task> read(const QJsonObject &json) const;
+    Result<Task> read(const JsonObject &json) const;
 
 private:
-    std::optional<Problem> readSteps(const QJsonValue &json, const QString &place,
-                                     Task &task) const;
-    Result<std::unique_ptr<Operation>> readStep(const QJsonValue &json, const QString &place) const;
+    std::optional<Problem> readSteps(const JsonValue &json, const QString &place, Task &task) const;
+    Result<std::unique_ptr<Operation>> readStep(const JsonValue &json, const QString &place) const;
 
     const OperationCatalog &m_catalog;
 };

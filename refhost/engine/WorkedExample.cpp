@@ -7,8 +7,6 @@
 
 #include "Operation.h"
 
-#include <QJsonArray>
-
 namespace {
 
 QString resultName()
@@ -16,16 +14,16 @@ QString resultName()
     return QStringLiteral("result");
 }
 
-QJsonObject taskOf(const WorkedExample &example, const QString &typeId)
+JsonObject taskOf(const WorkedExample &example, const QString &typeId)
 {
-    QJsonObject variables = example.variables;
-    variables.insert(resultName(), QJsonObject{{QStringLiteral("type"), example.into}});
-    QJsonObject step = example.settings;
+    JsonObject variables = example.variables;
+    variables.insert(resultName(), JsonObject{{QStringLiteral("type"), example.into}});
+    JsonObject step = example.settings;
     step.insert(QStringLiteral("type"), typeId);
     const QString resultVar = QStringLiteral("resultVar");
     if (!step.contains(resultVar))
         step.insert(resultVar, resultName());
-    return {{QStringLiteral("variables"), variables}, {QStringLiteral("steps"), QJsonArray{step}}};
+    return {{QStringLiteral("variables"), variables}, {QStringLiteral("steps"), JsonArray{step}}};
 }
 
 } // namespace
@@ -37,7 +35,7 @@ Result<ExampleOutcome> runExample(const WorkedExample &example, const QString &t
     if (!task)
         return task.problem();
     VariableScope scope = task.value().startScope();
-    ExampleOutcome outcome{QJsonValue::Undefined, {}, {}, {}};
+    ExampleOutcome outcome{JsonValue(), {}, {}, {}};
     runTask(task.value(), scope, [&](const StepReport &report) {
         outcome.warnings = report.warnings;
         outcome.failure = report.failure;

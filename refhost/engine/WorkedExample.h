@@ -1,9 +1,8 @@
 #pragma once
 
+#include "refhost/engine/JsonTypes.h"
 #include "refhost/engine/Result.h"
 
-#include <QJsonObject>
-#include <QJsonValue>
 #include <QString>
 #include <QStringList>
 
@@ -16,17 +15,17 @@ class OperationSchema;
 struct WorkedExample
 {
     QString name;
-    QJsonObject variables; ///< as in a task
-    QJsonObject settings;  ///< as in a task, less the type; the result goes into "result"
-    QString into;          ///< the type of the variable "result"
-    QJsonValue result;     ///< undefined when nothing is written
+    JsonObject variables; ///< as in a task
+    JsonObject settings;  ///< as in a task, less the type; the result goes into "result"
+    QString into;         ///< the type of the variable "result"
+    JsonValue result;     ///< undefined when nothing is written
     QStringList warnings;
 };
 
 /// What an example gives, or has to give.
 struct ExampleOutcome
 {
-    QJsonValue result; ///< what was written to "result", undefined when nothing was
+    JsonValue result; ///< what was written to "result", undefined when nothing was
     QStringList warnings;
     QStringList others;             ///< the other variables that were written; an example has none
     std::optional<QString> failure; ///< what the step threw, which no example has

@@ -1,10 +1,11 @@
 #include "refhost/runner/Console.h"
 
+#include "refhost/engine/JsonWriter.h"
 #include "refhost/engine/OutputFile.h"
 #include "refhost/runner/OneLine.h"
 #include "refhost/runner/supervision/RunProgress.h"
 
-#include <QJsonDocument>
+#include <QJsonObject>
 
 #include <cstdio>
 
@@ -23,9 +24,14 @@ void Console::print(const QString &line)
     m_results += line.toUtf8() + '\n';
 }
 
+void Console::printJson(const JsonValue &json)
+{
+    m_results += indentedJson(json);
+}
+
 void Console::printJson(const QJsonObject &json)
 {
-    m_results += QJsonDocument(json).toJson(QJsonDocument::Indented);
+    printJson(jsonFromQt(json));
 }
 
 void Console::note(const QString &line) const

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "refhost/engine/JsonTypes.h"
+
 #include <QByteArray>
-#include <QJsonObject>
 #include <QString>
+
+class QJsonObject;
 
 /// Results on standard output, everything else on standard error, both as UTF-8 whatever the
 /// locale. Results are held back until `flush`, so that a command that fails has printed none.
@@ -13,6 +16,7 @@ public:
     void print(const QString &line);
 
     /// Adds results in JSON.
+    void printJson(const JsonValue &json);
     void printJson(const QJsonObject &json);
 
     /// Writes one line to standard error.

@@ -22,7 +22,7 @@ QJsonObject propertyToJson(const PropertySchema &property)
     QJsonObject json{{QStringLiteral("name"), property.name},
                      {QStringLiteral("type"), property.typeName},
                      {QStringLiteral("label"), property.shownLabel},
-                     {QStringLiteral("default"), variantToJson(property.defaultValue)}};
+                     {QStringLiteral("default"), QJsonValue::fromVariant(property.defaultValue)}};
     if (!property.editor.isEmpty())
         json.insert(QStringLiteral("editor"), property.editor);
     if (!property.restrictionKey.isEmpty())

@@ -66,8 +66,8 @@ void printProperties(const OperationSchema &schema, Console &console)
 QString givenLines(const WorkedExample &example, const OperationSchema &schema)
 {
     QStringList lines;
-    for (auto variable = example.variables.begin(); variable != example.variables.end(); ++variable)
-        lines.append(code(QStringLiteral("$%1: %2").arg(variable.key(), jsonText(*variable))));
+    for (const JsonMember &variable : example.variables)
+        lines.append(code(QStringLiteral("$%1: %2").arg(variable.key, jsonText(variable.value))));
     const QStringList names = settingNames(example, schema);
     for (const QString &name : names) {
         const QString value = jsonText(example.settings.value(name));

@@ -26,8 +26,8 @@ QCommandLineOption checkOption()
 void printExample(const WorkedExample &example, const OperationSchema &schema, Console &console)
 {
     console.print(QStringLiteral("  ") + example.name);
-    for (auto variable = example.variables.begin(); variable != example.variables.end(); ++variable)
-        console.print(QStringLiteral("      $%1: %2").arg(variable.key(), jsonText(*variable)));
+    for (const JsonMember &variable : example.variables)
+        console.print(QStringLiteral("      $%1: %2").arg(variable.key, jsonText(variable.value)));
     const QStringList names = settingNames(example, schema);
     for (const QString &name : names) {
         const QString value = jsonText(example.settings.value(name));

@@ -1,6 +1,6 @@
 #include "refhost/runner/Probe.h"
 
-#include "refhost/engine/JsonFile.h"
+#include "refhost/engine/FileBytes.h"
 #include "refhost/runner/ValidateOptions.h"
 
 #include <QCoreApplication>
@@ -9,6 +9,8 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -120,8 +122,8 @@ Outcome awaitOutcome(QProcess &process, const QString &resultFile, int timeoutSe
         return {Verdict::Crashed, QStringLiteral("not started: ") + process.errorString()};
     const bool inTime = endsInTime(process, timeoutSeconds);
     // What was found is found; afterwards the process only ends.
-    if (const auto json = readJsonObject(resultFile)) {
-        if (const auto outcome = Outcome::fromJson(json.value()))
+    if (const auto json = readFileBytes(resultFile)) {
+        if (const auto outcome = Outcome::fromJson(QJsonDocument::fromJson(json.value()).object()))
             return *outcome;
     }
     if (inTime)
@@ -149,10 +151,10 @@ Result<Probe> Probe::find()
     QProcess process;
     process.start(probe.m_program, {QStringLiteral("--list")});
     process.waitForFinished();
-    const auto json = parseJsonObject(process.readAllStandardOutput(), expected);
-    if (!json)
+    const auto json = QJsonDocument::fromJson(process.readAllStandardOutput());
+    if (!json.isObject())
         return unusable(expected, QStringLiteral("does not list the checks it knows"));
-    const QJsonArray list = json.value().value(QStringLiteral("checks")).toArray();
+    const QJsonArray list = json.object().value(QStringLiteral("checks")).toArray();
     for (const QJsonValue &check : list)
         probe.m_checks.append(CheckInfo::fromJson(check.toObject()));
     return probe;

@@ -23,7 +23,6 @@
 #include "Operation.h"
 
 #include <QCommandLineParser>
-#include <QJsonObject>
 
 namespace {
 
@@ -119,22 +118,31 @@ SingleEnd runSteps(const Task &task, VariableScope &scope, StepMessages &message
     return end;
 }
 
+/// Prints an object of the chosen variables, in ascending order as all of them are.
+void printJson(const VariableScope &scope, QStringList chosen, Console &console)
+{
+    chosen.removeDuplicates();
+    chosen.sort();
+    const QStringList names = chosen.isEmpty() ? scope.names() : chosen;
+    JsonObject json;
+    for (const QString &name : names)
+        json.append(name, variantToJson(scope.get(name)));
+    console.printJson(json);
+}
+
 void printVariables(const VariableScope &scope, const QStringList &chosen, bool asJson,
                     Console &console)
 {
+    if (asJson)
+        return printJson(scope, chosen, console);
     const QStringList names = chosen.isEmpty() ? scope.names() : chosen;
-    QJsonObject json;
     for (const QString &name : names) {
-        const QJsonValue value = variantToJson(scope.get(name));
-        if (asJson)
-            json.insert(name, value);
-        else if (chosen.isEmpty())
+        const JsonValue value = variantToJson(scope.get(name));
+        if (chosen.isEmpty())
             console.print(oneLine(name) + QStringLiteral(" = ") + jsonText(value));
         else
             console.print(value.isString() ? value.toString() : jsonText(value));
     }
-    if (asJson)
-        console.printJson(json);
 }
 
 int runOnce(const Task &task, const SingleRun &run, const QCommandLineParser &options,

@@ -252,5 +252,6 @@ std::optional<Problem> RunOptions::findMissingVariable(const QString &option, co
         names.append(variable.name);
     if (names.contains(name))
         return std::nullopt;
+    names.sort();
     return unknownVariable(option, name, names);
 }

@@ -1,6 +1,7 @@
 #include "tests/support/QuietTest.h"
 
 #include "refhost/engine/FactBook.h"
+#include "refhost/engine/JsonReader.h"
 #include "refhost/engine/JsonValue.h"
 #include "refhost/engine/OperationCatalog.h"
 #include "refhost/engine/OperationSchema.h"
@@ -10,12 +11,11 @@
 
 #include "Operation.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QtTest>
 
 #include <memory>
+
+Q_DECLARE_METATYPE(JsonObject)
 
 /// Tasks without a mistake that use every property and every choice: a check finds nothing in them,
 /// they run without a warning, and what they give is what was meant.
@@ -34,7 +34,7 @@ private:
 
     std::unique_ptr<OperationCatalog> m_catalog;
     FactBook m_book;
-    QJsonArray m_tasks;
+    JsonArray m_tasks;
     QSet<QString> m_used; ///< "type.property=value" of choices and flags, otherwise "type.property"
 };
 
@@ -61,17 +61,17 @@ void CorrectTasksTest::initTestCase()
     m_book = book.value();
     QFile file(TASKS_FILE);
     QVERIFY(file.open(QIODevice::ReadOnly));
-    QJsonParseError error;
-    m_tasks = QJsonDocument::fromJson(file.readAll(), &error).array();
-    QVERIFY2(error.error == QJsonParseError::NoError, qPrintable(error.errorString()));
+    const Result<JsonValue> tasks = parseJson(file.readAll());
+    QVERIFY2(tasks, qPrintable(tasks ? QString() : tasks.problem().toString()));
+    m_tasks = tasks.value().toArray();
     QVERIFY(m_tasks.size() >= 40);
 }
 
 void CorrectTasksTest::tasks_data()
 {
-    QTest::addColumn<QJsonObject>("json");
+    QTest::addColumn<JsonObject>("json");
     QSet<QString> names;
-    for (const QJsonValue &task : qAsConst(m_tasks)) {
+    for (const JsonValue &task : qAsConst(m_tasks)) {
         const QString name = task.toObject().value("name").toString();
         QVERIFY2(!names.contains(name), qPrintable(name));
         names.insert(name);
@@ -81,7 +81,7 @@ void CorrectTasksTest::tasks_data()
 
 void CorrectTasksTest::tasks()
 {
-    QFETCH(QJsonObject, json);
+    QFETCH(JsonObject, json);
     const Result<Task> task =
         TaskReader(*m_catalog)
             .read({{"variables", json.value("variables")}, {"steps", json.value("steps")}});
@@ -94,10 +94,10 @@ void CorrectTasksTest::tasks()
         QVERIFY2(report.warnings.isEmpty(), qPrintable(report.warnings.join('\n')));
         noteUse(*report.step);
     });
-    const QJsonObject results = json.value("results").toObject();
+    const JsonObject results = json.value("results").toObject();
     QVERIFY(!results.isEmpty());
-    for (auto result = results.begin(); result != results.end(); ++result)
-        QCOMPARE(jsonText(variantToJson(scope.get(result.key()))), jsonText(*result));
+    for (const JsonMember &result : results)
+        QCOMPARE(jsonText(variantToJson(scope.get(result.key))), jsonText(result.value));
 }
 
 void CorrectTasksTest::noteUse(const Operation &step)

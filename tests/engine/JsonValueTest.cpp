@@ -1,10 +1,9 @@
 #include "tests/support/ListOf.h"
 #include "tests/support/QuietTest.h"
 
+#include "refhost/engine/JsonReader.h"
 #include "refhost/engine/JsonValue.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
 #include <QtTest>
 
 #include <cmath>
@@ -29,9 +28,9 @@ private Q_SLOTS:
 
 namespace {
 
-QJsonValue json(const char *text)
+JsonValue json(const char *text)
 {
-    return QJsonDocument::fromJson('[' + QByteArray(text) + ']').array().first();
+    return parseJson(QByteArray(text)).value();
 }
 
 } // namespace
@@ -58,7 +57,12 @@ void JsonValueTest::fits_data()
                                 << QVariant(listOf({1, 2.5, "a", false, listOf({3})}));
     QTest::newRow("large whole number in a list")
         << "[9007199254740993]" << 5 << QVariant(listOf({9007199254740993LL}));
-    QTest::newRow("too large for a whole number") << "[1e300]" << 5 << QVariant(listOf({1e300}));
+    QTest::newRow("whole doubles in a list")
+        << "[1e300, 1.0, 2e0, -0]" << 5 << QVariant(listOf({1e300, 1.0, 2.0, -0.0}));
+    QTest::newRow("beyond 64 bits for a double")
+        << "123456789012345678901234567890" << 2 << QVariant(123456789012345678901234567890.0);
+    QTest::newRow("54 bits for a double")
+        << "9007199254740993" << 2 << QVariant(9007199254740992.0);
     QTest::newRow("table") << "[[1, 2], []]" << 6
                            << QVariant(listOf({listOf({1, 2}), QVariantList()}));
 }
@@ -83,6 +87,8 @@ void JsonValueTest::doesNotFit_data()
 
     const QString ints = "a whole number from -2147483648 to 2147483647";
     const QString doubles = R"(a number, or one of "inf", "-inf" and "nan")";
+    const QString wide = "a whole number from -9223372036854775808 to 9223372036854775807, "
+                         "or a string such as ";
     QTest::newRow("fraction for an int") << "2.5" << 1 << "2.5; expected " + ints;
     QTest::newRow("too large int") << "2147483648" << 1 << "2147483648; expected " + ints;
     QTest::newRow("text for an int") << "\"2\"" << 1 << "\"2\"; expected " + ints;
@@ -99,6 +105,14 @@ void JsonValueTest::doesNotFit_data()
     QTest::newRow("object deep in a list")
         << "[[{}]]" << 5
         << "[[{}]]; expected an array of strings, numbers, booleans and such arrays";
+    QTest::newRow("2^63 in a list")
+        << "[[9223372036854775808]]" << 5
+        << "9223372036854775808; expected " + wide + "\"9223372036854775808\"";
+    QTest::newRow("below -2^63 in a table")
+        << "[[-9223372036854775809]]" << 6
+        << "-9223372036854775809; expected " + wide + "\"-9223372036854775809\"";
+    QTest::newRow("2^63 for an int")
+        << "9223372036854775808" << 1 << "9223372036854775808; expected " + ints;
     QTest::newRow("flat table") << "[[1],2]" << 6
                                 << "[[1],2]; expected an array of rows, each an array";
     QTest::newRow("no type") << "1" << 0 << "1; expected a value of a known type";
@@ -131,6 +145,9 @@ void JsonValueTest::text_data()
     QTest::newRow("infinite") << "inf" << 2 << QVariant(std::numeric_limits<double>::infinity());
     QTest::newRow("bool") << "false" << 4 << QVariant(false);
     QTest::newRow("number for a bool") << "1" << 4 << QVariant();
+    QTest::newRow("18 digits in a list")
+        << "[110105194912310021]" << 5 << QVariant(listOf({110105194912310021LL}));
+    QTest::newRow("bad escape in a list") << R"(["\q"])" << 5 << QVariant();
     QTest::newRow("list") << R"(["a", 1])" << 5 << QVariant(listOf({"a", 1}));
     QTest::newRow("open list") << R"(["a")" << 5 << QVariant();
     QTest::newRow("table") << "[[1]]" << 6 << QVariant(listOf({listOf({1})}));
@@ -160,6 +177,16 @@ void JsonValueTest::toJson_data()
     QTest::newRow("double") << QVariant(2.5) << "2.5";
     QTest::newRow("whole double") << QVariant(4.0) << "4";
     QTest::newRow("not a number") << QVariant(std::nan("")) << "\"nan\"";
+    QTest::newRow("64 bits") << QVariant(std::numeric_limits<qlonglong>::min())
+                             << "-9223372036854775808";
+    QTest::newRow("million as a double") << QVariant(1e6) << "1000000";
+    QTest::newRow("2^62 as a double") << QVariant(4611686018427387904.0) << "4611686018427388000";
+    QTest::newRow("2^64 as a double") << QVariant(18446744073709551616.0) << "18446744073709552000";
+    QTest::newRow("large double") << QVariant(1e22) << "1e+22";
+    QTest::newRow("minus zero") << QVariant(-0.0) << "-0.0";
+    QTest::newRow("doubles in a list") << QVariant(listOf({4.0, -0.0, 1e22, 0.5, listOf({1e6})}))
+                                       << "[4.0,-0.0,1e+22,0.5,[1000000.0]]";
+    QTest::newRow("byte order mark") << QVariant(QString(QChar(0xFEFF)) + "x") << "\"\\ufeffx\"";
     QTest::newRow("bool") << QVariant(true) << "true";
     QTest::newRow("list") << QVariant(listOf({"a", 1, listOf({true})})) << "[\"a\",1,[true]]";
     QTest::newRow("strings") << QVariant(QStringList({"a", "b"})) << "[\"a\",\"b\"]";

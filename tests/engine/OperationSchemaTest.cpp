@@ -1,11 +1,13 @@
 #include "tests/support/PlainOperation.h"
 #include "tests/support/QuietTest.h"
 
+#include "refhost/engine/JsonWriter.h"
 #include "refhost/engine/OperationSchema.h"
 #include "refhost/engine/PropertyValue.h"
 
-#include <QJsonArray>
 #include <QtTest>
+
+Q_DECLARE_METATYPE(JsonValue)
 
 namespace {
 
@@ -102,45 +104,51 @@ void OperationSchemaTest::lookUp()
 void OperationSchemaTest::values_data()
 {
     QTest::addColumn<QString>("property");
-    QTest::addColumn<QJsonValue>("json");
+    QTest::addColumn<JsonValue>("json");
     QTest::addColumn<QVariant>("value"); // invalid where it does not fit
     QTest::addColumn<QString>("message");
 
-    const auto fits = [](const char *row, const char *property, const QJsonValue &json,
+    const auto fits = [](const char *row, const char *property, const JsonValue &json,
                          const QVariant &value) {
         QTest::newRow(row) << property << json << value << "";
     };
-    const auto fails = [](const char *row, const char *property, const QJsonValue &json,
+    const auto fails = [](const char *row, const char *property, const JsonValue &json,
                           const char *message) {
         QTest::newRow(row) << property << json << QVariant() << message;
     };
-    fits("text", "text", "$a", "$a");
+    fits("text", "text", QString("$a"), "$a");
     fails("number for a text", "text", 5, "5; expected a string");
-    fits("label", "mode", "中间", 1);
+    fits("label", "mode", QString("中间"), 1);
     fits("number of a choice", "mode", 2, 2);
     fits("number outside the list", "mode", -7, -7);
     const char *choices = R"(expected one of "左边", "中间", "右边", or the number of a choice)";
-    fails("no label", "mode", "上边", qPrintable(QString("\"上边\"; ") + choices));
+    fails("no label", "mode", QString("上边"), qPrintable(QString("\"上边\"; ") + choices));
     fails("fraction for a choice", "mode", 1.5, qPrintable(QString("1.5; ") + choices));
-    fits("numeric operand as text", "count", "$n", "$n");
+    fits("numeric operand as text", "count", QString("$n"), "$n");
     fits("numeric operand as a number", "count", 12, "12");
+    fits("numeric operand of 18 digits", "count", JsonValue(110105194912310021LL),
+         "110105194912310021");
+    fits("numeric operand beyond 64 bits", "count",
+         JsonValue::WideInteger{"-123456789012345678901234567890"},
+         "-123456789012345678901234567890");
+    fits("minus zero as a numeric operand", "count", -0.0, "-0");
     fits("large numeric operand", "count", 1e6, "1000000");
     fits("fraction for a numeric operand", "count", -2.5, "-2.5");
     fails("bool for a numeric operand", "count", true, "true; expected a number or a string");
     fits("flag", "flag", false, false);
     fails("number for a flag", "flag", 1, "1; expected true or false");
     fits("plain int", "plain", 3, 3);
-    fails("text for a plain int", "plain", "3",
+    fails("text for a plain int", "plain", QString("3"),
           "\"3\"; expected a whole number from -2147483648 to 2147483647");
     fits("double", "ratio", 0.25, 0.25);
-    fails("list", "words", QJsonArray{"a"},
+    fails("list", "words", JsonArray{QString("a")},
           "[\"a\"]; expected nothing: a property of type QStringList cannot stand in a task file");
 }
 
 void OperationSchemaTest::values()
 {
     QFETCH(QString, property);
-    QFETCH(QJsonValue, json);
+    QFETCH(JsonValue, json);
     QFETCH(QVariant, value);
     QFETCH(QString, message);
     const OperationSchema schema{Sampler()};
@@ -155,12 +163,12 @@ void OperationSchemaTest::values()
 void OperationSchemaTest::choicesAreWrittenByLabel()
 {
     const OperationSchema schema{Sampler()};
-    QCOMPARE(propertyToJson(1, *schema.property("mode")), QJsonValue("中间"));
-    QCOMPARE(propertyToJson(3, *schema.property("mode")), QJsonValue(3));
-    QCOMPARE(propertyToJson(-1, *schema.property("mode")), QJsonValue(-1));
-    QCOMPARE(propertyToJson(1, *schema.property("plain")), QJsonValue(1));
-    QCOMPARE(propertyToJson("x", *schema.property("text")), QJsonValue("x"));
-    QCOMPARE(propertyToJson(true, *schema.property("flag")), QJsonValue(true));
+    QCOMPARE(jsonText(propertyToJson(1, *schema.property("mode"))), QString("\"中间\""));
+    QCOMPARE(jsonText(propertyToJson(3, *schema.property("mode"))), QString("3"));
+    QCOMPARE(jsonText(propertyToJson(-1, *schema.property("mode"))), QString("-1"));
+    QCOMPARE(jsonText(propertyToJson(1, *schema.property("plain"))), QString("1"));
+    QCOMPARE(jsonText(propertyToJson("x", *schema.property("text"))), QString("\"x\""));
+    QCOMPARE(jsonText(propertyToJson(true, *schema.property("flag"))), QString("true"));
 }
 
 QTEST_GUILESS_MAIN(OperationSchemaTest)

@@ -702,6 +702,7 @@ void PackedTaskTest::beyondJson_data()
         QTest::newRow(name) << int(type) << value
                             << (text.isEmpty() ? text : "variables.a.value" + text);
     };
+    using Longs = std::numeric_limits<qlonglong>;
     const QString comesBack = "; as JSON it would come back as ";
     row("no value", VarType::String, {}, {});
     row("empty text", VarType::String, "", {});
@@ -713,22 +714,15 @@ void PackedTaskTest::beyondJson_data()
     row("large double", VarType::Double, 9223372036854775808.0, {});
     row("infinite", VarType::Double, -std::numeric_limits<double>::infinity(), {});
     row("not a number", VarType::Double, std::numeric_limits<double>::quiet_NaN(), {});
-    row("minus zero", VarType::Double, -0.0,
-        ": the floating-point number -0" + comesBack + "the floating-point number 0");
+    row("minus zero", VarType::Double, -0.0, {});
     row("another NaN", VarType::Double, fromBits(0xFFF8000000000000),
         ": no number (of the bits fff8000000000000)" + comesBack +
             "no number (of the bits 7ff8000000000000)");
-    row("53 bits", VarType::List, listOf({9007199254740991LL, -9007199254740991LL}), {});
-    row("54 bits", VarType::List, listOf({1, 9007199254740993LL}),
-        "[1]: the 64-bit number 9007199254740993" + comesBack +
-            "the 64-bit number 9007199254740992");
-    row("power of two", VarType::List, listOf({1LL << 60}),
-        "[0]: the 64-bit number 1152921504606846976" + comesBack +
-            "the 64-bit number 1152921504606847000");
+    row("54 bits", VarType::List, listOf({1, 9007199254740993LL}), {});
+    row("64 bits", VarType::List, listOf({Longs::max(), Longs::min(), 1LL << 60}), {});
     row("wider than need be", VarType::List, listOf({5LL}),
         "[0]: the 64-bit number 5" + comesBack + "the 32-bit number 5");
-    row("whole double in a list", VarType::List, listOf({2.0}),
-        "[0]: the floating-point number 2" + comesBack + "the 32-bit number 2");
+    row("whole double in a list", VarType::List, listOf({2.0, 1e300, -0.0, 1e18}), {});
     row("infinite in a list", VarType::List,
         listOf({"a", listOf({std::numeric_limits<double>::infinity()})}),
         "[1][0]: the floating-point number inf" + comesBack + "the text \"inf\"");
@@ -803,12 +797,13 @@ void PackedTaskTest::nestingAsDeepAsJson()
     const auto tooDeep = taskToExactJson(withValue(VarType::List, nested(1022)), *m_catalog);
     QVERIFY(!tooDeep);
     QCOMPARE(tooDeep.problem().reason, Reason::BeyondJson);
-    QVERIFY2(tooDeep.problem().message.contains("too deeply nested"), qPrintable(failure(tooDeep)));
+    QVERIFY2(tooDeep.problem().message.contains("within each other"), qPrintable(failure(tooDeep)));
 
     Task twice = withValue(VarType::Int, 1);
     twice.variables.append(twice.variables.first());
     QCOMPARE(failure(taskToExactJson(twice, *m_catalog)),
-             QString("variables: 2 of them; from JSON 1 would come back"));
+             QString("line 9, column 9: malformed JSON (the key \"a\" for the second time; "
+                     "expected each key once)"));
 }
 
 QTEST_GUILESS_MAIN(PackedTaskTest)

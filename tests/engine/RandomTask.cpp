@@ -80,9 +80,8 @@ QVariant RandomTask::wholeNumber()
     const auto narrow = static_cast<int>(m_random.generate());
     if (m_values == Values::Any)
         return below(2) == 0 ? QVariant(wide >> below(64)) : QVariant(narrow);
-    // Within 53 bits, and 64 bits wide only where 32 do not do.
-    const qlonglong exact = wide / (1 << 11);
-    return below(2) == 0 && exact != static_cast<int>(exact) ? QVariant(exact) : QVariant(narrow);
+    // 64 bits wide only where 32 do not do.
+    return below(2) == 0 && wide != static_cast<int>(wide) ? QVariant(wide) : QVariant(narrow);
 }
 
 QVariant RandomTask::element(int depth)
@@ -93,10 +92,8 @@ QVariant RandomTask::element(int depth)
     case 1:
         return wholeNumber();
     case 2: {
-        // JSON tells a whole number in a list from others by its being whole.
         const double any = number();
-        const bool fraction = std::isfinite(any) && any != std::trunc(any);
-        return m_values == Values::Any || fraction ? any : 0.1;
+        return m_values == Values::Any || std::isfinite(any) ? any : 0.1;
     }
     case 3:
     case 4:
@@ -131,8 +128,9 @@ QVariant RandomTask::value(VarType type)
         return static_cast<int>(m_random.generate());
     case VarType::Double: {
         const double any = number();
-        const bool exact = !std::isnan(any) && (any != 0 || !std::signbit(any));
-        return m_values == Values::Any || exact ? any : std::numeric_limits<double>::quiet_NaN();
+        return m_values == Values::Any || !std::isnan(any)
+                   ? any
+                   : std::numeric_limits<double>::quiet_NaN();
     }
     case VarType::String:
         return textValue();

@@ -97,7 +97,11 @@ void RowRunnerTest::objects_data()
         "\"\\\"\\\\\\n\\u0001😀\\ud800\",\"x\":0}");
     row("infinite", R"({"x":"-inf"})",
         R"({"l":[],"n":3,"on":false,"r":"a3","word":"a","x":"-inf"})");
-    row("key twice", R"({"n":1,"n":2})", R"({"l":[],"n":2,"on":false,"r":"a2","word":"a","x":0})");
+    row("numbers in a list", R"({"l":[110105194912310021,9223372036854775807,1.0,-0.0,0.1]})",
+        "{\"l\":[110105194912310021,9223372036854775807,1.0,-0.0,0.1],\"n\":3,\"on\":false,"
+        "\"r\":\"a3\",\"word\":\"a\",\"x\":0}");
+    row("byte order mark in a text", R"({"word":"\ufeff"})",
+        R"({"l":[],"n":3,"on":false,"r":"\ufeff3","word":"\ufeff","x":0})");
 }
 
 void RowRunnerTest::objects()
@@ -123,15 +127,25 @@ void RowRunnerTest::badObjects_data()
         QTest::newRow(name) << json << int(reason) << QString(text);
     };
     row("no JSON", "{\"n\":", Reason::MalformedJson,
-        "line 7, column 5: malformed JSON (unterminated object)");
-    row("nothing", "", Reason::MalformedJson, "line 7, column 1: malformed JSON (illegal value)");
+        "line 7, column 6: malformed JSON (the end of the text; expected a value)");
+    row("nothing", "", Reason::MalformedJson,
+        "line 7, column 1: an empty text; expected an object in braces");
     row("array", "[1]", Reason::WrongKind,
         "line 7, column 1: an array; expected an object in braces");
-    row("number", "5", Reason::MalformedJson, "line 7, column 1: malformed JSON (illegal value)");
+    row("number", "5", Reason::WrongKind,
+        "line 7, column 1: a number; expected an object in braces");
     row("two objects", "{}{}", Reason::MalformedJson,
-        "line 7, column 3: malformed JSON (garbage at the end of the document)");
+        "line 7, column 3: malformed JSON (\"{\"; expected the end of the text)");
     row("no UTF-8", "{\"word\":\"\xff\"}", Reason::MalformedJson,
-        "line 7, column 9: malformed JSON (invalid UTF8 string)");
+        "line 7, column 10: malformed JSON (bytes that are not UTF-8)");
+    row("key twice", R"({"n":1,"n":2})", Reason::MalformedJson,
+        "line 7, column 8: malformed JSON (the key \"n\" for the second time; expected each key "
+        "once)");
+    row("unknown variable and malformed", R"({"m":1,"n":.5})", Reason::MalformedJson,
+        "line 7, column 12: malformed JSON (\".5\"; expected a value)");
+    row("beyond 64 bits", R"({"l":[9223372036854775808]})", Reason::UnfitValue,
+        "line 7, \"l\": 9223372036854775808; expected a whole number from -9223372036854775808 to "
+        "9223372036854775807, or a string such as \"9223372036854775808\"");
     row("unknown variable", R"({"word":"a","m":1})", Reason::UnknownVariable,
         "line 7: the task has no variable \"m\"; expected l, n, on, r, word, x");
     row("variable in another case", R"({"N":1})", Reason::UnknownVariable,

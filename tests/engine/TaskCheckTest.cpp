@@ -138,7 +138,7 @@ void TaskCheckTest::initTestCase()
 
 QList<Finding> TaskCheckTest::check(const QByteArray &json) const
 {
-    const Result<QJsonObject> object = parseJsonObject(json, {});
+    const Result<JsonObject> object = parseJsonObject(json, {});
     if (!object)
         qFatal("%s", qPrintable(object.problem().toString()));
     const Result<Task> task = TaskReader(*m_catalog).read(object.value());
@@ -1011,7 +1011,7 @@ void TaskCheckTest::longChains()
 void TaskCheckTest::withoutFacts()
 {
     // Without a file of facts nothing is known but what annotations tell.
-    const Result<QJsonObject> json = parseJsonObject(
+    const Result<JsonObject> json = parseJsonObject(
         R"({"variables": {"r": {"type": "string"}, "n": {"type": "int"}}, "steps": [
             {"type": "text.find", "sourceText": "a;b", "searchText": "[0-9]+", "resultVar": "n"},
             {"type": "text.substring", "sourceText": "$r", "startIndex": "$n", "resultVar": "r"},

@@ -3,7 +3,6 @@
 #include "tests/golden/GoldenValue.h"
 
 #include "refhost/engine/FileBytes.h"
-#include "refhost/engine/JsonFile.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -44,12 +43,13 @@ Result<GoldenRecord> readValues(const QString &file, const QString &name, const 
 /// Appends the records of one operation.
 std::optional<Problem> readOperation(const QString &file, QList<GoldenRecord> &records)
 {
-    const Result<QJsonObject> json = readJsonObject(file);
-    if (!json)
-        return json.problem();
-    const QStringList names = json.value().keys();
+    const Result<QByteArray> text = readFileBytes(file);
+    if (!text)
+        return text.problem();
+    const QJsonObject json = QJsonDocument::fromJson(text.value()).object();
+    const QStringList names = json.keys();
     for (const QString &name : names) {
-        Result<GoldenRecord> record = readValues(file, name, json.value().value(name).toObject());
+        Result<GoldenRecord> record = readValues(file, name, json.value(name).toObject());
         if (!record)
             return record.problem();
         if (record.value().checksum.isEmpty()) {

@@ -73,7 +73,7 @@ void FactsTest::initTestCase()
 
 FactsTest::Run FactsTest::run(const QByteArray &json) const
 {
-    const Result<QJsonObject> object = parseJsonObject(json, {});
+    const Result<JsonObject> object = parseJsonObject(json, {});
     if (!object)
         qFatal("%s", qPrintable(object.problem().toString()));
     const Result<Task> task = TaskReader(*m_catalog).read(object.value());

@@ -84,7 +84,7 @@ const char badRowErrors[] =
     "\"row\":\"[]\"}\n"
     "{\"line\":5,\"problem\":\"line 5, \\\"n\\\": \\\"x\\\"; expected a whole number from -2147483648 "
     "to 2147483647\",\"row\":\"{\\\"n\\\":\\\"x\\\"}\"}\n"
-    "{\"line\":6,\"problem\":\"line 6, column 9: malformed JSON (invalid UTF8 string)\","
+    "{\"line\":6,\"problem\":\"line 6, column 10: malformed JSON (bytes that are not UTF-8)\","
     "\"rowBase64\":\"eyJ3b3JkIjoi/yJ9\"}\n";
 
 QString lineOf(const QString &number)
@@ -158,14 +158,15 @@ void RowsTest::badRows()
         const auto outcome =
             m_folder->run({"run", "task.json", "--each", "bad", "--print", "r", "--jobs", jobs});
         QCOMPARE(outcome.out, lineOf("1") + "{\"r\":\"b3\"}\n" + lineOf("2"));
-        QCOMPARE(outcome.err,
-                 QString("oprun: bad: line 3, column 1: an array; expected an object in braces; "
-                         "the row: []\n"
-                         "oprun: bad: line 5, \"n\": \"x\"; expected a whole number from "
-                         "-2147483648 to 2147483647; the row: {\"n\":\"x\"}\n"
-                         "oprun: bad: line 6, column 9: malformed JSON (invalid UTF8 string); "
-                         "the row: {\"word\":\"\uFFFD\"}\n"
-                         "oprun: 6 rows: 3 done, 3 failed; 0 warnings\n"));
+        QCOMPARE(
+            outcome.err,
+            QString("oprun: bad: line 3, column 1: an array; expected an object in braces; "
+                    "the row: []\n"
+                    "oprun: bad: line 5, \"n\": \"x\"; expected a whole number from "
+                    "-2147483648 to 2147483647; the row: {\"n\":\"x\"}\n"
+                    "oprun: bad: line 6, column 10: malformed JSON (bytes that are not UTF-8); "
+                    "the row: {\"word\":\"\uFFFD\"}\n"
+                    "oprun: 6 rows: 3 done, 3 failed; 0 warnings\n"));
         QCOMPARE(outcome.status, 1);
     }
 }
@@ -433,7 +434,7 @@ void RowsTest::keepsFailedRows()
                  "{\"r\":\"b3\"}\n"
                  "{\"error\":\"line 5, \\\"n\\\": \\\"x\\\"; expected a whole number from "
                  "-2147483648 to 2147483647\"}\n"
-                 "{\"error\":\"line 6, column 9: malformed JSON (invalid UTF8 string)\"}\n" +
+                 "{\"error\":\"line 6, column 10: malformed JSON (bytes that are not UTF-8)\"}\n" +
                  lineOf("2"));
     QCOMPARE(outcome.err.count('\n'), 4);
     QCOMPARE(outcome.status, 1);
@@ -455,8 +456,9 @@ void RowsTest::skips_data()
     QTest::addColumn<QString>("out");
     QTest::addColumn<QString>("errors");
 
-    const QString error = "oprun: part: line %1, column 1: malformed JSON (illegal value); "
-                          "the row: x\n";
+    const QString error =
+        "oprun: part: line %1, column 1: malformed JSON (\"x\"; expected a value); "
+        "the row: x\n";
     const auto summary = [](int done, int failed, int skipped) {
         const QString text = QString("oprun: %1 rows: %2 done, %3 failed; 0 warnings")
                                  .arg(done + failed)

@@ -1,5 +1,6 @@
 #include "refhost/validator/trials/RandomTask.h"
 #include "refhost/engine/JsonFile.h"
+#include "refhost/engine/JsonWriter.h"
 #include "refhost/engine/OperationCatalog.h"
 #include "refhost/engine/TaskReader.h"
 #include "refhost/engine/TaskWriter.h"
@@ -14,8 +15,6 @@
 
 #include "Operation.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
 #include <QtTest>
 
 /// Random tasks are what their files say: a task read from its file is the task that was run.
@@ -48,7 +47,7 @@ void RandomTaskTest::filesGiveTheSameTask()
         RandomSource source(1, specimen.name());
         for (int i = 0; i < tasks; ++i) {
             const Task task = randomTask(source, specimen);
-            const QByteArray bytes = QJsonDocument(taskToJson(task, noCatalog)).toJson();
+            const QByteArray bytes = indentedJson(taskToJson(task, noCatalog));
             const auto json = parseJsonObject(bytes, "file");
             QVERIFY2(json, bytes.constData());
             const auto read = TaskReader(m_catalog).read(json.value());
@@ -72,9 +71,9 @@ void RandomTaskTest::seedDecides()
     const OperationCatalog noCatalog{QStringList()};
     const auto make = [&](quint32 seed, const QString &theme) {
         RandomSource source(seed, theme);
-        QJsonArray tasks;
+        QByteArray tasks;
         for (int i = 0; i < 10; ++i)
-            tasks.append(taskToJson(randomTask(source, specimen), noCatalog));
+            tasks += indentedJson(taskToJson(randomTask(source, specimen), noCatalog));
         return tasks;
     };
     QCOMPARE(make(3, "text"), make(3, "text"));

@@ -8,8 +8,6 @@
 
 #include "Operation.h"
 
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QMimeData>
 #include <QTest>
 
@@ -207,8 +205,7 @@ void ClipboardTest::copiesACompleteTask()
         mimeFromTask(partialTask(state, {state.steps.first().id}, m_catalog), m_catalog);
     QVERIFY(!mime->hasFormat(packedTaskMimeType()));
     QVERIFY(mime->text().contains("\n    \"steps\": ["));
-    const QJsonObject json = QJsonDocument::fromJson(mime->text().toUtf8()).object();
-    const Result<Task> read = TaskReader(m_catalog).read(json);
+    const Result<Task> read = TaskReader(m_catalog).readBytes(mime->text().toUtf8());
     QVERIFY(read);
     QCOMPARE(read.value().variables.size(), 1);
     QCOMPARE(read.value().variables.first().name, "line");

@@ -1,19 +1,17 @@
 #include "refhost/runner/rows/RowSink.h"
 
 #include "refhost/engine/Excerpt.h"
+#include "refhost/engine/JsonWriter.h"
 #include "refhost/runner/Console.h"
 #include "refhost/runner/RunnerText.h"
 #include "refhost/runner/StepNames.h"
 #include "refhost/runner/WarningExplainer.h"
 #include "refhost/runner/supervision/RunProgress.h"
 
-#include <QJsonDocument>
-#include <QJsonObject>
-
 namespace {
 
 /// Adds the row that failed: as text, or its bytes in Base64 where it is none.
-void addRow(QJsonObject &json, const QByteArray &row)
+void addRow(JsonObject &json, const QByteArray &row)
 {
     // With its size: without it Qt stops at a NUL.
     const QString text = QString::fromUtf8(row.constData(), row.size());
@@ -26,7 +24,7 @@ void addRow(QJsonObject &json, const QByteArray &row)
 /// The note as a line of a file of errors.
 QByteArray noteLine(const RowNote &note, const QStringList &plugins)
 {
-    QJsonObject json{{QStringLiteral("line"), note.line}};
+    JsonObject json{{QStringLiteral("line"), note.line}};
     if (note.problem) {
         json.insert(QStringLiteral("problem"), note.problem->toString());
         addRow(json, note.row);
@@ -38,7 +36,9 @@ QByteArray noteLine(const RowNote &note, const QStringList &plugins)
         json.insert(note.warning.isFailure ? QStringLiteral("threw") : QStringLiteral("warning"),
                     note.warning.line);
     }
-    return QJsonDocument(json).toJson(QJsonDocument::Compact) + '\n';
+    QByteArray text;
+    appendJson(text, json);
+    return text + '\n';
 }
 
 /// Returns what a message on standard error says of the row that failed.

@@ -1,5 +1,6 @@
 #include "refhost/validator/trials/KeptTask.h"
 
+#include "refhost/engine/JsonWriter.h"
 #include "refhost/engine/OperationCatalog.h"
 #include "refhost/engine/Task.h"
 #include "refhost/engine/TaskWriter.h"
@@ -7,7 +8,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QJsonDocument>
 #include <QRegularExpression>
 
 namespace {
@@ -55,7 +55,7 @@ void KeptTask::write(const Task &task)
         return;
     m_file.seek(0);
     m_file.resize(0);
-    m_file.write(QJsonDocument(taskToJson(task, noCatalog)).toJson());
+    m_file.write(indentedJson(taskToJson(task, noCatalog)));
 }
 
 void KeptTask::discard()

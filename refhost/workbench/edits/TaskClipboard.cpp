@@ -1,5 +1,6 @@
 #include "refhost/workbench/edits/TaskClipboard.h"
 
+#include "refhost/engine/JsonWriter.h"
 #include "refhost/engine/TaskPacker.h"
 #include "refhost/engine/TaskUnpacker.h"
 #include "refhost/engine/TaskWriter.h"
@@ -8,7 +9,6 @@
 
 #include "Operation.h"
 
-#include <QJsonDocument>
 #include <QMimeData>
 #include <QStack>
 
@@ -39,9 +39,7 @@ bool isSmall(const QVariant &value)
 /// The text that comes nearest to the task.
 QByteArray nearestJson(const Task &task, const OperationCatalog &catalog)
 {
-    QByteArray text = QJsonDocument(taskToJson(task, catalog)).toJson(QJsonDocument::Indented);
-    text.replace("\xEF\xBB\xBF", "\\ufeff");
-    return text;
+    return indentedJson(taskToJson(task, catalog));
 }
 
 } // namespace

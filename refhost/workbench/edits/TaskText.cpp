@@ -1,12 +1,10 @@
 #include "refhost/workbench/edits/TaskText.h"
 
-#include "refhost/engine/JsonFile.h"
+#include "refhost/engine/JsonReader.h"
 #include "refhost/engine/TaskReader.h"
 
 #include "Operation.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
 #include <QStringList>
 
 #include <algorithm>
@@ -119,7 +117,7 @@ void dropCodeSigns(QString &text)
 }
 
 /// Makes plain spaces of all blank characters between the tokens, where JSON knows no others. What
-/// is within a JSON string stays; Qt's parser just has to be told of a byte order mark there.
+/// is within a JSON string stays.
 QString withPlainSpaces(const QString &text)
 {
     QString plain;
@@ -127,9 +125,7 @@ QString withPlainSpaces(const QString &text)
     bool inString = false;
     bool escaped = false;
     for (const QChar unit : text) {
-        if (inString && unit == QChar(byteOrderMark))
-            plain += QLatin1String("\\ufeff");
-        else if (!inString && unit != QLatin1Char('\n') && isBlank(unit))
+        if (!inString && unit != QLatin1Char('\n') && isBlank(unit))
             plain += QLatin1Char(' ');
         else
             plain += unit;
@@ -141,16 +137,16 @@ QString withPlainSpaces(const QString &text)
 }
 
 /// A list of steps or a single step as the task they make up.
-Result<QJsonObject> taskObject(const QByteArray &json)
+Result<JsonObject> taskObject(const QByteArray &json)
 {
     const QString stepsKey = QStringLiteral("steps");
-    const QJsonDocument document = QJsonDocument::fromJson(json);
-    if (document.isArray())
-        return QJsonObject{{stepsKey, document.array()}};
-    Result<QJsonObject> object = parseJsonObject(json, {});
+    const Result<JsonValue> value = parseJson(json);
+    if (value && value.value().isArray())
+        return JsonObject{{stepsKey, value.value()}};
+    Result<JsonObject> object = parseJsonObject(json, {});
     if (object && object.value().contains(QStringLiteral("type")) &&
         !object.value().contains(stepsKey))
-        return QJsonObject{{stepsKey, QJsonArray{object.value()}}};
+        return JsonObject{{stepsKey, JsonArray{object.value()}}};
     return object;
 }
 
@@ -179,7 +175,7 @@ QString bareTaskText(const QString &text)
 
 Result<Task> taskFromText(const QString &text, const OperationCatalog &catalog)
 {
-    const Result<QJsonObject> json = taskObject(bareTaskText(text).toUtf8());
+    const Result<JsonObject> json = taskObject(bareTaskText(text).toUtf8());
     if (!json)
         return json.problem();
     return TaskReader(catalog).read(json.value());

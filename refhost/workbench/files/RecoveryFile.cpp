@@ -1,6 +1,8 @@
 #include "refhost/workbench/files/RecoveryFile.h"
 
 #include "refhost/engine/FileBytes.h"
+#include "refhost/engine/JsonReader.h"
+#include "refhost/engine/JsonWriter.h"
 #include "refhost/engine/TaskUnpacker.h"
 
 #include "Operation.h"
@@ -8,8 +10,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QStandardPaths>
 
 namespace {
@@ -31,7 +31,8 @@ QString stampKey()
 
 RecoveryOrigin originFrom(const QByteArray &line)
 {
-    const QJsonObject json = QJsonDocument::fromJson(line).object();
+    const Result<JsonObject> object = parseJsonObject(line, {});
+    const JsonObject json = object ? object.value() : JsonObject();
     const bool packed = json.value(packedKey()).toBool();
     return {json.value(pathKey()).toString(), packed ? TaskForm::Packed : TaskForm::Json,
             json.value(stampKey()).toString().toLatin1()};
@@ -41,10 +42,12 @@ RecoveryOrigin originFrom(const QByteArray &line)
 
 QByteArray recoveryBytes(const RecoveryOrigin &origin, const QByteArray &packedTask)
 {
-    const QJsonObject json{{pathKey(), origin.path},
-                           {packedKey(), origin.form == TaskForm::Packed},
-                           {stampKey(), QString::fromLatin1(origin.stamp)}};
-    return QJsonDocument(json).toJson(QJsonDocument::Compact) + '\n' + packedTask;
+    const JsonObject json{{packedKey(), origin.form == TaskForm::Packed},
+                          {pathKey(), origin.path},
+                          {stampKey(), QString::fromLatin1(origin.stamp)}};
+    QByteArray line;
+    appendJson(line, json);
+    return line + '\n' + packedTask;
 }
 
 RecoveryFile::RecoveryFile(QString path, std::unique_ptr<QLockFile> lock)

@@ -1,6 +1,7 @@
 #include "refhost/workbench/files/TaskFile.h"
 
 #include "refhost/engine/FileBytes.h"
+#include "refhost/engine/JsonWriter.h"
 #include "refhost/engine/PackedFrame.h"
 #include "refhost/engine/TaskPacker.h"
 #include "refhost/engine/TaskReader.h"
@@ -10,7 +11,6 @@
 
 #include <QCryptographicHash>
 #include <QFileInfo>
-#include <QJsonDocument>
 
 Result<TaskFile> readTaskFile(const QString &path, const OperationCatalog &catalog)
 {
@@ -34,7 +34,7 @@ Result<QByteArray> taskBytes(const Task &task, TaskForm form, const OperationCat
 
 QByteArray roughJson(const Task &task, const OperationCatalog &catalog)
 {
-    return QJsonDocument(taskToJson(task, catalog)).toJson(QJsonDocument::Indented);
+    return indentedJson(taskToJson(task, catalog));
 }
 
 TaskForm formOfName(const QString &path, TaskForm otherwise)
