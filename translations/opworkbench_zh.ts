@@ -482,10 +482,6 @@
         <translation>JSON 格式有误（%1）</translation>
     </message>
     <message>
-        <source>an array; expected an object in braces</source>
-        <translation>此处是数组；应为花括号括起的对象</translation>
-    </message>
-    <message>
         <source>%1; expected %2</source>
         <translation>此处是 %1；应为：%2</translation>
     </message>
@@ -768,7 +764,7 @@
     </message>
     <message>
         <source>write a number from -2147483648 to 2147483647</source>
-        <translation>改为 -2147483648 到 2147483647 之间的数</translation>
+        <translation>改为 -2147483648 到 2147483647 之间的数值</translation>
     </message>
     <message>
         <source>%1 is beyond 32 bits, and %2 is declared as %3</source>
@@ -963,8 +959,92 @@
         <translation>操作，但没有加载任何操作</translation>
     </message>
     <message>
+        <source>a number of at most 1.7976931348623157e308</source>
+        <translation>绝对值不超过 1.7976931348623157e308 的数值</translation>
+    </message>
+    <message>
+        <source>the key %1 for the second time; expected each key once</source>
+        <translation>键 %1 第二次出现；每个键只能出现一次</translation>
+    </message>
+    <message>
+        <source>more than %1 arrays and objects within each other</source>
+        <translation>数组和对象嵌套超过 %1 层</translation>
+    </message>
+    <message>
+        <source>the end of the text</source>
+        <translation>文本末尾</translation>
+    </message>
+    <message>
+        <source>&quot; at the end of a string</source>
+        <translation>字符串末尾的 &quot;</translation>
+    </message>
+    <message>
+        <source>the control character U+%1 within a string; expected an escape</source>
+        <translation>字符串中有控制字符 U+%1；应写成转义</translation>
+    </message>
+    <message>
+        <source>%1 is no escape; expected four hexadecimal digits after \u</source>
+        <translation>%1 不是转义；\u 之后应有四位十六进制数字</translation>
+    </message>
+    <message>
+        <source>%1 is no escape; expected \\ for a backslash</source>
+        <translation>%1 不是转义；反斜杠应写成 \\</translation>
+    </message>
+    <message>
+        <source>a key in double quotes</source>
+        <translation>双引号括起的键</translation>
+    </message>
+    <message>
+        <source>&quot;:&quot; after a key</source>
+        <translation>键之后的 &quot;:&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;,&quot; or &quot;}&quot; after a member</source>
+        <translation>成员之后的 &quot;,&quot; 或 &quot;}&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;,&quot; or &quot;]&quot; after an element</source>
+        <translation>元素之后的 &quot;,&quot; 或 &quot;]&quot;</translation>
+    </message>
+    <message>
+        <source>a digit after the decimal point</source>
+        <translation>小数点之后的数字</translation>
+    </message>
+    <message>
+        <source>a digit in the exponent</source>
+        <translation>指数中的数字</translation>
+    </message>
+    <message>
+        <source>a value</source>
+        <translation>一个值</translation>
+    </message>
+    <message>
+        <source>bytes that are not UTF-8</source>
+        <translation>不是 UTF-8 的字节</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>数值</translation>
+    </message>
+    <message>
+        <source>an object in braces</source>
+        <translation>花括号括起的对象</translation>
+    </message>
+    <message>
+        <source>an empty text</source>
+        <translation>空文本</translation>
+    </message>
+    <message>
+        <source>a whole number from -9223372036854775808 to 9223372036854775807, or a string such as %1</source>
+        <translation>-9223372036854775808 到 9223372036854775807 之间的整数，或 %1 这样的字符串</translation>
+    </message>
+    <message>
+        <source>from JSON %1 would come back in its place</source>
+        <translation>从 JSON 读回时，此处会是 %1</translation>
+    </message>
+    <message>
         <source>%1 has no such property; expected none at all</source>
-        <translation>%1 没有此属性，也没有任何其他属性</translation>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>
