@@ -1,5 +1,6 @@
 #include "refhost/workbench/files/FileActions.h"
 
+#include "refhost/engine/JsonWriter.h"
 #include "refhost/engine/TaskReader.h"
 #include "refhost/engine/TaskWriter.h"
 #include "refhost/workbench/files/Recovery.h"
