@@ -149,7 +149,8 @@ void RowRunnerTest::badObjects_data()
     row("unknown variable", R"({"word":"a","m":1})", Reason::UnknownVariable,
         "line 7: the task has no variable \"m\"; expected l, n, on, r, word, x");
     row("variable in another case", R"({"N":1})", Reason::UnknownVariable,
-        "line 7: the task has no variable \"N\"; expected l, n, on, r, word, x");
+        "line 7: the task has no variable \"N\"; expected l, n, on, r, word, x (did you mean "
+        "\"n\"?)");
     row("text for a number", R"({"n":"1"})", Reason::UnfitValue,
         "line 7, \"n\": \"1\"; expected a whole number from -2147483648 to 2147483647");
     row("number for a text", R"({"word":1})", Reason::UnfitValue,
