@@ -1044,7 +1044,7 @@
     </message>
     <message>
         <source>%1 has no such property; expected none at all</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 没有此属性，也没有任何其他属性</translation>
     </message>
 </context>
 </TS>
