@@ -764,7 +764,7 @@
     </message>
     <message>
         <source>write a number from -2147483648 to 2147483647</source>
-        <translation>改为 -2147483648 到 2147483647 之间的数值</translation>
+        <translation>改为 -2147483648 到 2147483647 之间的数</translation>
     </message>
     <message>
         <source>%1 is beyond 32 bits, and %2 is declared as %3</source>
