@@ -1046,5 +1046,9 @@
         <source>%1 has no such property; expected none at all</source>
         <translation>%1 没有此属性，也没有任何其他属性</translation>
     </message>
+    <message>
+        <source>it is a link to a name that is not UTF-8</source>
+        <translation>这是链接，它指向的名称不是 UTF-8</translation>
+    </message>
 </context>
 </TS>

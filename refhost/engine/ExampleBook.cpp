@@ -2,6 +2,7 @@
 
 #include "refhost/engine/JsonFile.h"
 #include "refhost/engine/JsonValue.h"
+#include "refhost/engine/NameIndex.h"
 #include "refhost/engine/OperationCatalog.h"
 #include "refhost/engine/PluginFolder.h"
 
@@ -66,11 +67,13 @@ std::optional<Problem> findFault(const JsonObject &json, const Members &members,
     for (const JsonMember &member : json) {
         const QString memberPlace = place + QLatin1Char('.') + member.key;
         if (!members.contains(member.key)) {
-            const QString known = QStringList(members.keys()).join(QLatin1String(", "));
+            const QStringList known = members.keys();
+            const QString message =
+                QStringLiteral("unknown key; expected %1").arg(known.join(QLatin1String(", ")));
             return Problem{Reason::UnknownKey,
                            {},
                            memberPlace,
-                           QStringLiteral("unknown key; expected %1").arg(known)};
+                           withSuggestion(message, nearestName(member.key, known))};
         }
         const Kind kind = members.value(member.key);
         if (kind.isOf && !(member.value.*kind.isOf)())
@@ -144,11 +147,13 @@ std::optional<Problem> ExampleBook::add(const JsonObject &json, const OperationC
 {
     for (const JsonMember &member : json) {
         if (!catalog.find(member.key)) {
+            const QStringList known = catalog.typeIds();
+            const QString message = QStringLiteral("no such operation; expected %1")
+                                        .arg(known.join(QLatin1String(", ")));
             return Problem{Reason::UnknownType,
                            {},
                            member.key,
-                           QStringLiteral("no such operation; expected %1")
-                               .arg(catalog.typeIds().join(QLatin1String(", ")))};
+                           withSuggestion(message, nearestName(member.key, known))};
         }
         const Result<OperationPage> page = pageFromJson(member.value, member.key);
         if (!page)

@@ -4,6 +4,7 @@
 #include "refhost/engine/JsonFile.h"
 #include "refhost/engine/JsonValue.h"
 #include "refhost/engine/LanguageName.h"
+#include "refhost/engine/NameIndex.h"
 #include "refhost/engine/OperationCatalog.h"
 #include "refhost/engine/OperationSchema.h"
 #include "refhost/engine/PluginFolder.h"
@@ -53,7 +54,8 @@ Problem unknownKey(const QString &place, const QStringList &known)
     return {Problem::Reason::UnknownKey,
             {},
             place,
-            EngineText::tr("unknown key; expected %1").arg(listText(known))};
+            withSuggestion(EngineText::tr("unknown key; expected %1").arg(listText(known)),
+                           nearestName(place.section(QLatin1Char('.'), -1), known))};
 }
 
 // The facts about one property: each key has a reader.
@@ -315,10 +317,12 @@ std::optional<Problem> FactBook::addOperations(const JsonObject &json,
     for (const JsonMember &member : json) {
         const QString place = QStringLiteral("operations.") + member.key;
         if (!typeIds.contains(member.key)) {
+            const QString message =
+                EngineText::tr("no such operation; expected %1").arg(listText(typeIds));
             return Problem{Problem::Reason::UnknownType,
                            {},
                            place,
-                           EngineText::tr("no such operation; expected %1").arg(listText(typeIds))};
+                           withSuggestion(message, nearestName(member.key, typeIds))};
         }
         if (!member.value.isObject())
             return wrongKind(place, member.value, EngineText::tr("an object"));

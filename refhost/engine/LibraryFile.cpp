@@ -118,7 +118,7 @@ QString missingFileReason(const QString &path)
 
 QString unfitLibraryReason(const QString &path)
 {
-    const QString missing = missingFileReason(path);
+    QString missing = missingFileReason(path);
     if (!missing.isEmpty())
         return missing;
     QFile file(path);

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <utility>
@@ -15,7 +16,6 @@
 #endif
 
 #ifdef Q_OS_LINUX
-#    include <array>
 #    include <climits>
 #    include <sys/stat.h>
 #endif
@@ -47,6 +47,28 @@ QByteArray pathOf(int descriptor)
 }
 
 #endif
+
+/// Returns true for a link that leads, also over other links, to a name that is not UTF-8. Qt would
+/// follow it to another name.
+bool leadsOutsideUtf8(QString name)
+{
+#ifdef Q_OS_UNIX
+    constexpr int mostLinks = 40;
+    for (int link = 0; link < mostLinks; ++link) {
+        std::array<char, 4096> target; // longer ones cannot be opened
+        const QByteArray path = QFile::encodeName(name);
+        const ssize_t size = readlink(path.constData(), target.data(), target.size());
+        if (size < 0)
+            return false;
+        const QByteArray bytes(target.data(), static_cast<int>(size));
+        if (QString::fromUtf8(bytes).toUtf8() != bytes)
+            return true;
+        name = QFile::symLinkTarget(name);
+    }
+#endif
+    Q_UNUSED(name)
+    return false;
+}
 
 } // namespace
 
@@ -82,6 +104,8 @@ std::optional<Problem> OutputFile::open()
         return std::nullopt;
     if (m_name.isEmpty())
         return emptyFileName(Problem::Reason::UnwritableFile);
+    if (leadsOutsideUtf8(m_name))
+        return unwritable(EngineText::tr("it is a link to a name that is not UTF-8"));
     const QFileInfo there(m_name);
     // A device or a pipe is written to, not replaced.
     if (there.exists() && !there.isFile() && !there.isDir())

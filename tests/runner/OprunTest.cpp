@@ -420,13 +420,13 @@ void OprunTest::refusesExamples_data()
         "line 1, column 2: malformed JSON (the end of the text; expected a key in double quotes)");
     row("page no object", R"({"text.pad": []})", "text.pad: []; expected an object");
     row("unknown member of a page", R"({"text.pad": {"exmaples": []}})",
-        "text.pad.exmaples: unknown key; expected about, examples");
+        "text.pad.exmaples: unknown key; expected about, examples (did you mean \"examples\"?)");
     row("examples no array", R"({"text.pad": {"examples": {}}})",
         "text.pad.examples: {}; expected an array");
     row("example no object", R"({"text.pad": {"examples": [5]}})",
         "text.pad.examples[0]: 5; expected an object");
     row("unknown member of an example", R"({"text.pad": {"examples": [{}, {"nam": ""}]}})",
-        "text.pad.examples[1].nam: " + members);
+        "text.pad.examples[1].nam: " + members + " (did you mean \"name\"?)");
     row("settings no object", R"({"text.pad": {"examples": [{"settings": 5}]}})",
         "text.pad.examples[0].settings: 5; expected an object");
     row("type no string", R"({"text.pad": {"examples": [{"into": 5}]}})",
