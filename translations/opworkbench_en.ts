@@ -1807,12 +1807,12 @@ The packed format can.</translation>
         <translation>No task to open is given.</translation>
     </message>
     <message>
-        <source>没有选项“%1”；是否指“%2”？</source>
-        <translation>There is no option &quot;%1&quot;; did you mean &quot;%2&quot;?</translation>
-    </message>
-    <message>
         <source>选项“%1”给出了 %2 次；应只给一次。</source>
         <translation>The option &quot;%1&quot; is given %2 times; give it once.</translation>
+    </message>
+    <message>
+        <source>没有选项“%1”；是否指“--%2”？</source>
+        <translation>There is no option &quot;%1&quot;; did you mean &quot;--%2&quot;?</translation>
     </message>
 </context>
 </TS>

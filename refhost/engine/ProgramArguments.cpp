@@ -6,6 +6,8 @@
 #include <QByteArray>
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace {
 
 #ifdef Q_OS_UNIX
@@ -78,4 +80,18 @@ Result<QStringList> programArguments(int argc, char *argv[])
         arguments.append(QString::fromLocal8Bit(argv[i]));
     return arguments;
 #endif
+}
+
+QString argumentWithOption(const QString &name, const QStringList &arguments)
+{
+    const QString dashes = QStringLiteral("--");
+    const QString whole = dashes + name;
+    const auto hasOption = [&](const QString &argument) {
+        if (argument.startsWith(dashes))
+            return argument.section(QLatin1Char('='), 0, 0) == whole;
+        return name.size() == 1 && argument.startsWith(QLatin1Char('-')) && argument.contains(name);
+    };
+    const auto options = arguments.mid(1, arguments.indexOf(dashes));
+    const auto found = std::find_if(options.cbegin(), options.cend(), hasOption);
+    return found == options.cend() ? whole : found->section(QLatin1Char('='), 0, 0);
 }

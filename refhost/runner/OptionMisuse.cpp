@@ -4,13 +4,12 @@
 #include "refhost/engine/JsonValue.h"
 #include "refhost/engine/NameIndex.h"
 #include "refhost/engine/Problem.h"
+#include "refhost/engine/ProgramArguments.h"
 #include "refhost/runner/Options.h"
 #include "refhost/runner/RunnerText.h"
 
 #include <QCommandLineParser>
 #include <QFileInfo>
-
-#include <algorithm>
 
 namespace {
 
@@ -22,21 +21,6 @@ QString dashes()
 QString longName(const QCommandLineOption &option)
 {
     return option.names().constLast();
-}
-
-/// Returns the argument in which the parser found the unknown option `name`. Of "-json" the parser
-/// tells the letters one by one.
-QString argumentWith(const QString &name, const QStringList &arguments)
-{
-    const QString whole = dashes() + name;
-    const auto hasOption = [&](const QString &argument) {
-        if (argument.startsWith(dashes()))
-            return argument.section(QLatin1Char('='), 0, 0) == whole;
-        return name.size() == 1 && argument.startsWith(QLatin1Char('-')) && argument.contains(name);
-    };
-    const auto end = std::find(arguments.cbegin(), arguments.cend(), dashes());
-    const auto found = std::find_if(arguments.cbegin(), end, hasOption);
-    return found == end ? whole : found->section(QLatin1Char('='), 0, 0);
 }
 
 /// Returns a message of Qt, a sentence with a full stop, in the form of our own.
@@ -88,7 +72,7 @@ QString optionMisuse(const QCommandLineParser &parser, const QList<QCommandLineO
 {
     const QStringList unknown = parser.unknownOptionNames();
     if (!unknown.isEmpty())
-        return unknownOption(argumentWith(unknown.constFirst(), arguments.mid(1)), known);
+        return unknownOption(argumentWithOption(unknown.constFirst(), arguments), known);
     if (!parser.errorText().isEmpty())
         return asPartOfSentence(parser.errorText());
     if (parser.values(Options::plugin()).contains(QString())) {

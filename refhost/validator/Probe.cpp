@@ -132,6 +132,13 @@ int runProbe(int argc, char *argv[])
         return usageError(given.problem().toString());
     if (!parser.parse(given.value()))
         return usageError(parser.errorText());
+    for (const QCommandLineOption &option :
+         {seedOption(), resultOption(), progressOption(), keepOption()}) {
+        if (parser.values(option).size() > 1) {
+            return usageError(
+                QStringLiteral("--%1 is given twice").arg(option.names().constFirst()));
+        }
+    }
     if (parser.isSet(listOption())) {
         printChecks();
         return EXIT_SUCCESS;

@@ -124,8 +124,9 @@ void WorkbenchOptionsTest::refusesWhatMakesNoSense_data()
     const auto row = [](const char *name, const QStringList &arguments, const char *words) {
         QTest::newRow(name) << arguments << QString::fromUtf8(words);
     };
-    row("unknown option", {"--nix"}, "没有选项“nix”");
-    row("near option", {"--stpe", "1", "a"}, "没有选项“stpe”；是否指“step”？");
+    row("unknown option", {"--nix"}, "没有选项“--nix”。");
+    row("near option", {"--stpe", "1", "a"}, "没有选项“--stpe”；是否指“--step”？");
+    row("near option, one dash", {"-step", "1", "a"}, "没有选项“-step”；是否指“--step”？");
     row("two steps", {"--step", "1", "--step=2", "a"}, "选项“step”给出了 2 次；应只给一次。");
     row("two languages", {"--lang", "zh", "--lang", "en"}, "选项“lang”给出了 2 次");
     row("two styles", {"--style", "dark", "--style", "dark"}, "选项“style”给出了 2 次");

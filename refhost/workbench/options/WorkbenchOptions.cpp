@@ -1,6 +1,7 @@
 #include "refhost/workbench/options/WorkbenchOptions.h"
 
 #include "refhost/engine/NameIndex.h"
+#include "refhost/engine/ProgramArguments.h"
 #include "refhost/workbench/look/Appearance.h"
 #include "refhost/workbench/look/Language.h"
 #include "refhost/workbench/look/Remembered.h"
@@ -140,7 +141,8 @@ Result<WorkbenchOptions> WorkbenchOptions::parse(const QStringList &arguments)
     addOptions(parser);
     const bool understood = parser.parse(arguments);
     if (!parser.unknownOptionNames().isEmpty())
-        return usage(unknownOption(parser.unknownOptionNames().constFirst()));
+        return usage(
+            unknownOption(argumentWithOption(parser.unknownOptionNames().constFirst(), arguments)));
     if (!understood)
         return usage(parser.errorText());
     if (const auto problem = findRepeatedOption(parser))
@@ -152,11 +154,14 @@ Result<WorkbenchOptions> WorkbenchOptions::parse(const QStringList &arguments)
     return options;
 }
 
-QString WorkbenchOptions::unknownOption(const QString &name)
+QString WorkbenchOptions::unknownOption(const QString &given)
 {
-    const QString near = nearestName(name, singleOptions() + repeatableOptions() + flags());
-    return near.isEmpty() ? tr("没有选项“%1”。").arg(name)
-                          : tr("没有选项“%1”；是否指“%2”？").arg(name, near);
+    QString bare = given;
+    while (bare.startsWith(QLatin1Char('-')))
+        bare.remove(0, 1);
+    const QString near = nearestName(bare, singleOptions() + repeatableOptions() + flags());
+    return near.isEmpty() ? tr("没有选项“%1”。").arg(given)
+                          : tr("没有选项“%1”；是否指“--%2”？").arg(given, near);
 }
 
 std::optional<Problem> WorkbenchOptions::findRepeatedOption(const QCommandLineParser &parser)

@@ -42,7 +42,7 @@ public:
 
 private:
     static void addOptions(QCommandLineParser &parser);
-    static QString unknownOption(const QString &name);
+    static QString unknownOption(const QString &given);
     static std::optional<Problem> findRepeatedOption(const QCommandLineParser &parser);
     std::optional<Problem> readSize(const QCommandLineParser &parser);
     std::optional<Problem> readSteps(const QCommandLineParser &parser);
