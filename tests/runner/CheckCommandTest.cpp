@@ -206,7 +206,7 @@ void CheckCommandTest::refusesFacts_data()
     };
     row("no object", "[]", "line 1, column 1: an array; expected an object in braces");
     row("unknown key", R"({"operatoins": {}})",
-        "operatoins: unknown key; expected operations, warnings");
+        "operatoins: unknown key; expected operations, warnings (did you mean \"operations\"?)");
     row("operations no object", R"({"operations": []})", "operations: []; expected an object");
     row("unknown operation", R"({"operations": {"greet.hello": {}}})",
         "operations.greet.hello: no such operation; expected " + allTypes);

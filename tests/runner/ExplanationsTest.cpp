@@ -144,10 +144,11 @@ void ExplanationsTest::unusableFile()
     const QMap<QString, QString> libraries{{"LD_LIBRARY_PATH", LIBRARY_FOLDER}};
     QCOMPARE(errorsOf(join, {"--plugin", plugin}, libraries), QString(joinLine));
     m_oprun.write("libCopy.facts.json", R"({"warning": []})");
-    QCOMPARE(errorsOf(QByteArray(join) + ',' + join, {"--plugin", plugin}, libraries),
-             QString(joinLine) + "oprun: " + m_oprun.filePath("libCopy.facts.json") +
-                 ": warning: unknown key; expected operations, warnings\n" +
-                 QString(joinLine).replace("steps[0]", "steps[1]"));
+    QCOMPARE(
+        errorsOf(QByteArray(join) + ',' + join, {"--plugin", plugin}, libraries),
+        QString(joinLine) + "oprun: " + m_oprun.filePath("libCopy.facts.json") +
+            ": warning: unknown key; expected operations, warnings (did you mean \"warnings\"?)\n" +
+            QString(joinLine).replace("steps[0]", "steps[1]"));
     // Without a warning nobody asks.
     QCOMPARE(
         errorsOf(R"({"type": "text.reverse", "resultVar": "r"})", {"--plugin", plugin}, libraries),
