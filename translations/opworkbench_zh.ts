@@ -1050,5 +1050,17 @@
         <source>it is a link to a name that is not UTF-8</source>
         <translation>这是链接，它指向的名称不是 UTF-8</translation>
     </message>
+    <message>
+        <source>; &quot;--extra ignore&quot; drops such keys, &quot;--extra keep&quot; prints them</source>
+        <translation>；&quot;--extra ignore&quot; 丢弃这些键，&quot;--extra keep&quot; 原样输出它们</translation>
+    </message>
+    <message>
+        <source>the task has no variables %1; expected none at all</source>
+        <translation>任务中没有变量 %1；它没有任何变量</translation>
+    </message>
+    <message>
+        <source>the task has no variables %1; expected %2</source>
+        <translation>任务中没有变量 %1；应为：%2</translation>
+    </message>
 </context>
 </TS>

@@ -1,8 +1,11 @@
 #include "refhost/engine/RowRunner.h"
 
+#include "refhost/engine/EngineText.h"
 #include "refhost/engine/Excerpt.h"
 #include "refhost/engine/JsonReader.h"
 #include "refhost/engine/JsonValue.h"
+#include "refhost/engine/MemberTexts.h"
+#include "refhost/engine/RowValue.h"
 #include "refhost/engine/StepGuard.h"
 #include "refhost/engine/TaskProblem.h"
 
@@ -31,6 +34,14 @@ Problem memberProblem(Problem problem, const QString &name, qint64 line)
     return problem;
 }
 
+Problem extraKeys(const QStringList &names, const QStringList &known, qint64 line)
+{
+    Problem problem = unknownVariables(lineName(line), names, known);
+    problem.message +=
+        EngineText::tr("; \"--extra ignore\" drops such keys, \"--extra keep\" prints them");
+    return problem;
+}
+
 /// The text of UTF-8 bytes, a byte order mark included; null when they are not UTF-8.
 std::optional<QString> textFromUtf8(const QByteArray &bytes)
 {
@@ -43,6 +54,32 @@ std::optional<QString> textFromUtf8(const QByteArray &bytes)
 }
 
 } // namespace
+
+/// The members of a row as they are written, one after the other. Their texts are looked up for the
+/// first that is asked for.
+class RowMembers
+{
+public:
+    explicit RowMembers(const QByteArray &row)
+        : m_row(row)
+    {
+    }
+
+    void next() { ++m_current; }
+
+    /// Returns the member that `next` was last called for.
+    MemberText current()
+    {
+        if (m_texts.isEmpty())
+            m_texts = memberTexts(m_row);
+        return m_texts.value(m_current);
+    }
+
+private:
+    const QByteArray &m_row;
+    QVector<MemberText> m_texts;
+    int m_current = -1;
+};
 
 RowRunner::RowRunner(Task task, const RowFormat &format)
     : m_task(std::move(task))
@@ -89,6 +126,7 @@ RowOutcome RowRunner::run(const QByteArray &row, qint64 line)
 
 void RowRunner::reset()
 {
+    m_extra.clear();
     for (const TaskVariable &variable : qAsConst(m_start))
         m_scope.set(variable.name, variable.value);
 }
@@ -101,21 +139,31 @@ std::optional<Problem> RowRunner::take(const QByteArray &row, qint64 line)
 std::optional<Problem> RowRunner::takeObject(const QByteArray &row, qint64 line)
 {
     std::optional<Problem> unfit;
-    const auto take = [&](const QString &name, const JsonValue &value) {
-        if (!unfit)
-            unfit = takeMember(name, value, line);
+    RowMembers members(row);
+    QStringList extraNames;
+    const auto take = [&](const QString &name, const JsonValue &json) {
+        members.next();
+        const VarType type = m_scope.typeOf(name);
+        if (type == VarType::None) {
+            extraNames.append(name);
+            if (m_format.extra == RowFormat::Extra::Keep)
+                m_extra += ',' + members.current().key + ':' + members.current().value;
+        } else if (!unfit) {
+            unfit = takeMember(name, json, type, members, line);
+        }
     };
-    const std::optional<Problem> malformed = parseJsonMembers(row, line, take);
-    return malformed ? malformed : unfit;
+    if (auto malformed = parseJsonMembers(row, line, take))
+        return malformed;
+    if (!extraNames.isEmpty() && m_format.extra == RowFormat::Extra::Refuse)
+        return extraKeys(extraNames, m_scope.names(), line);
+    return unfit;
 }
 
 std::optional<Problem> RowRunner::takeMember(const QString &name, const JsonValue &json,
-                                             qint64 line)
+                                             VarType type, RowMembers &members, qint64 line)
 {
-    const VarType type = m_scope.typeOf(name);
-    if (type == VarType::None)
-        return unknownVariable(lineName(line), name, m_scope.names());
-    const Result<QVariant> value = variantFromJson(json, type);
+    const Result<QVariant> value =
+        variantFromRow(json, type, [&] { return members.current().value; });
     if (!value)
         return memberProblem(value.problem(), name, line);
     m_scope.set(name, value.value());
@@ -169,7 +217,9 @@ Result<QByteArray> RowRunner::output(qint64 line) const
         object += m_keys.at(i);
         appendJsonText(object, m_scope.get(m_format.printed.at(i)));
     }
-    return object + (m_keys.isEmpty() ? "{}" : "}");
+    if (m_keys.isEmpty())
+        return '{' + m_extra.mid(1) + '}';
+    return object + m_extra + '}';
 }
 
 Result<QByteArray> RowRunner::plainOutput(qint64 line) const

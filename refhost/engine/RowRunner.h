@@ -12,6 +12,8 @@
 
 #include <optional>
 
+class RowMembers;
+
 /// A line that a step logged, or what it threw.
 struct StepWarning
 {
@@ -48,7 +50,8 @@ private:
     void reset();
     std::optional<Problem> take(const QByteArray &row, qint64 line);
     std::optional<Problem> takeObject(const QByteArray &row, qint64 line);
-    std::optional<Problem> takeMember(const QString &name, const JsonValue &json, qint64 line);
+    std::optional<Problem> takeMember(const QString &name, const JsonValue &json, VarType type,
+                                      RowMembers &members, qint64 line);
     std::optional<Problem> takeText(const QByteArray &row, qint64 line);
     void runSteps(RowOutcome &outcome);
     void runStep(const Operation &step, int index, RowOutcome &outcome);
@@ -59,6 +62,7 @@ private:
     RowFormat m_format;
     VariableScope m_scope;
     QList<TaskVariable> m_start; ///< every variable with the value a row starts with
+    QByteArray m_extra;          ///< members of the row that come out unchanged, with commas
     QList<QByteArray> m_keys;    ///< of the printed variables, with what stands around them in JSON
     MessageCapture m_capture;
 };

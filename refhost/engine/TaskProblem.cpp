@@ -72,3 +72,20 @@ Problem unknownVariable(const QString &place, const QString &name, const QString
             place,
             withSuggestion(message, nearestName(name, known))};
 }
+
+Problem unknownVariables(const QString &place, const QStringList &names, const QStringList &known)
+{
+    if (names.size() == 1)
+        return unknownVariable(place, names.first(), known);
+    QStringList quoted;
+    for (const QString &name : names)
+        quoted.append(jsonText(name));
+    const QString found = excerpt(listText(quoted));
+    return {Problem::Reason::UnknownVariable,
+            {},
+            place,
+            known.isEmpty()
+                ? EngineText::tr("the task has no variables %1; expected none at all").arg(found)
+                : EngineText::tr("the task has no variables %1; expected %2")
+                      .arg(found, listText(known))};
+}

@@ -32,3 +32,6 @@ Problem unknownProperty(const QString &place, const QString &name, const QString
 
 /// That the task, whose variables are `known`, has no variable `name`, which `place` asks for.
 Problem unknownVariable(const QString &place, const QString &name, const QStringList &known);
+
+/// The same for several `names`, or for one.
+Problem unknownVariables(const QString &place, const QStringList &names, const QStringList &known);

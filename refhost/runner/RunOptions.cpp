@@ -61,9 +61,10 @@ std::optional<Problem> findMisplacedOption(const QCommandLineParser &options)
     const bool rows = RunOptions::asksForRows(options);
     const QList<QCommandLineOption> misplaced =
         rows ? QList<QCommandLineOption>{RunOptions::trace()}
-             : QList<QCommandLineOption>{RunOptions::out(),       RunOptions::errors(),
-                                         RunOptions::onError(),   RunOptions::skip(),
-                                         RunOptions::firstLine(), RunOptions::jobs()};
+             : QList<QCommandLineOption>{RunOptions::out(),   RunOptions::errors(),
+                                         RunOptions::extra(), RunOptions::onError(),
+                                         RunOptions::skip(),  RunOptions::firstLine(),
+                                         RunOptions::jobs()};
     for (const QCommandLineOption &option : misplaced) {
         if (options.isSet(option)) {
             return Problem{Problem::Reason::UnfitValue,
@@ -139,6 +140,14 @@ QCommandLineOption RunOptions::failFast()
             QStringLiteral("Stop at the first row or step that fails.")};
 }
 
+QCommandLineOption RunOptions::extra()
+{
+    return {QStringLiteral("extra"),
+            QStringLiteral("Keys of a row that the task does not declare: the row fails (refuse), "
+                           "they are dropped (ignore), or they are printed unchanged (keep)."),
+            QStringLiteral("KEYS"), QStringLiteral("refuse")};
+}
+
 QCommandLineOption RunOptions::onError()
 {
     return {QStringLiteral("on-error"),
@@ -177,8 +186,9 @@ QCommandLineOption RunOptions::timeout()
 
 QList<QCommandLineOption> RunOptions::all()
 {
-    return {set(),    print(),    Options::json(), trace(), strict(),    each(), lines(),  out(),
-            errors(), failFast(), onError(),       skip(),  firstLine(), jobs(), timeout()};
+    return {set(),   print(),     Options::json(), trace(),    strict(), each(),
+            lines(), out(),       errors(),        failFast(), extra(),  onError(),
+            skip(),  firstLine(), jobs(),          timeout()};
 }
 
 QString RunOptions::rowFile(const QCommandLineParser &options)

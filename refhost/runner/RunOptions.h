@@ -42,6 +42,9 @@ QCommandLineOption errors();
 /// --fail-fast: stop at the first row or step that fails.
 QCommandLineOption failFast();
 
+/// --extra KEYS: what becomes of the keys of a row that the task does not declare.
+QCommandLineOption extra();
+
 /// --on-error ACTION: skip, or keep a line for each row that failed.
 QCommandLineOption onError();
 

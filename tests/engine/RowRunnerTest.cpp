@@ -18,6 +18,10 @@ private Q_SLOTS:
     void initTestCase();
     void objects_data();
     void objects();
+    void converts_data();
+    void converts();
+    void keepsExtraKeys_data();
+    void keepsExtraKeys();
     void badObjects_data();
     void badObjects();
     void lines_data();
@@ -116,6 +120,90 @@ void RowRunnerTest::objects()
     QVERIFY(outcome.warnings.isEmpty());
 }
 
+void RowRunnerTest::converts_data()
+{
+    QTest::addColumn<QByteArray>("row");
+    QTest::addColumn<QByteArray>("output");
+
+    const auto row = [](const char *name, const QByteArray &value, const QByteArray &converted) {
+        const QByteArray key = '"' + QByteArray(name) + "\":";
+        QTest::addRow("%s: %s", name, value.constData())
+            << '{' + key + value + '}' << '{' + key + converted + '}';
+    };
+    row("word", "99", "\"99\"");
+    row("word", "-0", "\"-0\"");
+    row("word", "1.50", "\"1.50\"");
+    row("word", " 1E+2 ", "\"1E+2\"");
+    row("word", "110105194912310021", "\"110105194912310021\"");
+    row("word", "123456789012345678901234567890", "\"123456789012345678901234567890\"");
+    row("word", "true", "\"true\"");
+    row("word", "false", "\"false\"");
+    row("n", "\"42\"", "42");
+    row("n", "\"-7.0\"", "-7");
+    row("n", "7.0", "7");
+    row("x", "\"2.5\"", "2.5");
+    row("x", "\"-inf\"", "\"-inf\"");
+    row("x", "\"9007199254740992\"", "9007199254740992");
+    row("x", "3", "3");
+    row("on", "\"true\"", "true");
+    row("on", "\"false\"", "false");
+}
+
+/// A scalar of another kind is read as "--set" reads its text.
+void RowRunnerTest::converts()
+{
+    QFETCH(QByteArray, row);
+    QFETCH(QByteArray, output);
+
+    const QString name = QString::fromUtf8(row).section('"', 1, 1);
+    RowRunner runner(task(), printing({name}));
+    const RowOutcome outcome = runner.run(row, 1);
+    QVERIFY2(!outcome.problem, qPrintable(outcome.problem ? outcome.problem->toString() : ""));
+    QCOMPARE(outcome.output, output);
+}
+
+void RowRunnerTest::keepsExtraKeys_data()
+{
+    QTest::addColumn<QByteArray>("row");
+    QTest::addColumn<QByteArray>("kept");
+
+    const auto row = [](const char *name, const char *json, const char *kept) {
+        QTest::newRow(name) << QByteArray(json) << QByteArray(kept);
+    };
+    row("none", R"({"word":"\"a\",{\\"})", "");
+    row("number", R"({"a" : 1.50 })", R"(,"a":1.50)");
+    row("around a variable", R"({"a":1,"word":"x","b":2})", R"(,"a":1,"b":2)");
+    row("strings", R"({"a":"},\"","b":"\\","c":"\ud83d\ude00\ud800中"})",
+        R"(,"a":"},\"","b":"\\","c":"\ud83d\ude00\ud800中")");
+    row("nested", R"({"a":{"b":[1,{"c":"]"}], "word":"no"},"d":[],"e":{}})",
+        R"(,"a":{"b":[1,{"c":"]"}], "word":"no"},"d":[],"e":{})");
+    row("words", R"({"a":null,"b":true,"c":-1E+9})", R"(,"a":null,"b":true,"c":-1E+9)");
+    row("keys", R"({"":1,"\u0062\"":2,"a:b,{":3})", R"(,"":1,"\u0062\"":2,"a:b,{":3)");
+    row("wide", "{\"a\":123456789012345678901234567890}", ",\"a\":123456789012345678901234567890");
+}
+
+/// Their members come out as they are written, behind the variables.
+void RowRunnerTest::keepsExtraKeys()
+{
+    QFETCH(QByteArray, row);
+    QFETCH(QByteArray, kept);
+
+    RowFormat format = printing({"n"});
+    format.extra = RowFormat::Extra::Keep;
+    RowRunner keeping(task(), format);
+    QCOMPARE(keeping.run(row, 1).output, "{\"n\":3" + kept + '}');
+    QCOMPARE(keeping.run("{}", 2).output, QByteArray("{\"n\":3}"));
+
+    format.printed.clear();
+    RowRunner without(task("{\"steps\":[]}"), format);
+    const QByteArray all = without.run(R"({"a" : 1,"b":[]})", 1).output;
+    QCOMPARE(all, QByteArray(R"({"a":1,"b":[]})"));
+
+    format.extra = RowFormat::Extra::Ignore;
+    RowRunner ignoring(task(), format);
+    QCOMPARE(ignoring.run(row, 1).output, QByteArray("{\"n\":3}"));
+}
+
 void RowRunnerTest::badObjects_data()
 {
     QTest::addColumn<QByteArray>("row");
@@ -146,15 +234,40 @@ void RowRunnerTest::badObjects_data()
     row("beyond 64 bits", R"({"l":[9223372036854775808]})", Reason::UnfitValue,
         "line 7, \"l\": 9223372036854775808; expected a whole number from -9223372036854775808 to "
         "9223372036854775807, or a string such as \"9223372036854775808\"");
+    row("unknown variables", R"({"p":null,"word":7,"\"q":[1],"n":"x"})", Reason::UnknownVariable,
+        "line 7: the task has no variables \"p\", \"\\\"q\"; expected l, n, on, r, word, x; "
+        "\"--extra ignore\" drops such keys, \"--extra keep\" prints them");
     row("unknown variable", R"({"word":"a","m":1})", Reason::UnknownVariable,
-        "line 7: the task has no variable \"m\"; expected l, n, on, r, word, x");
+        "line 7: the task has no variable \"m\"; expected l, n, on, r, word, x; "
+        "\"--extra ignore\" drops such keys, \"--extra keep\" prints them");
     row("variable in another case", R"({"N":1})", Reason::UnknownVariable,
-        "line 7: the task has no variable \"N\"; expected l, n, on, r, word, x (did you mean "
-        "\"n\"?)");
-    row("text for a number", R"({"n":"1"})", Reason::UnfitValue,
-        "line 7, \"n\": \"1\"; expected a whole number from -2147483648 to 2147483647");
-    row("number for a text", R"({"word":1})", Reason::UnfitValue,
-        "line 7, \"word\": 1; expected a string");
+        "line 7: the task has no variable \"N\"; expected l, n, on, r, word, x (did you mean \"n\"?); "
+        "\"--extra ignore\" drops such keys, \"--extra keep\" prints them");
+    const char *const wholeNumber = "expected a whole number from -2147483648 to 2147483647";
+    for (const char *text : {"\"\"", "\"x\"", "\"7.5\"", "\"2147483648\"", "\"007\"", "7.5", "true",
+                             "2147483648", "null", "[1]", "\"[1]\""}) {
+        row(text, "{\"n\":" + QByteArray(text) + '}', Reason::UnfitValue,
+            qPrintable(QString("line 7, \"n\": %1; %2").arg(text, wholeNumber)));
+    }
+    for (const char *text : {"[]", "{}", "null"}) {
+        row(qPrintable(QString("%1 for a text").arg(text)), "{\"word\":" + QByteArray(text) + '}',
+            Reason::UnfitValue,
+            qPrintable(QString("line 7, \"word\": %1; expected a string").arg(text)));
+    }
+    for (const char *text : {"1", "\"True\"", "\"1\"", "null"}) {
+        row(qPrintable(QString("%1 for a bool").arg(text)), "{\"on\":" + QByteArray(text) + '}',
+            Reason::UnfitValue,
+            qPrintable(QString("line 7, \"on\": %1; expected true or false").arg(text)));
+    }
+    for (const char *text : {"\"9007199254740993\"", "\"1e999\"", "\"x\"", "true"}) {
+        row(qPrintable(QString("%1 for a double").arg(text)), "{\"x\":" + QByteArray(text) + '}',
+            Reason::UnfitValue,
+            qPrintable(QString("line 7, \"x\": %1; expected a number, or one of \"inf\", \"-inf\" "
+                               "and \"nan\"")
+                           .arg(text)));
+    }
+    row("a text for a list", R"({"l":"[1]"})", Reason::UnfitValue,
+        "line 7, \"l\": \"[1]\"; expected an array of strings, numbers, booleans and such arrays");
     row("null", R"({"word":null})", Reason::UnfitValue,
         "line 7, \"word\": null; expected a string");
 }

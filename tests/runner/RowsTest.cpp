@@ -30,6 +30,8 @@ private Q_SLOTS:
     void firstRowsThatPass();
     void keepsFailedRows_data();
     void keepsFailedRows();
+    void extraKeys_data();
+    void extraKeys();
     void skips_data();
     void skips();
     void failFast_data();
@@ -236,7 +238,7 @@ void RowsTest::repeatedLines()
              qPrintable(warned.err.right(400)));
 
     const auto failed = m_folder->runShell(
-        "{ echo {}; seq 2500 | sed 's/.*/{\"n\":\"&\"}/'; seq 1001 | sed 's/.*/{\"m&\":1}/'; echo []; } |"
+        "{ echo {}; seq 2500 | sed 's/.*/{\"n\":\"x&\"}/'; seq 1001 | sed 's/.*/{\"m&\":1}/'; echo []; } |"
         "$OPRUN run task.json --each - --print n --jobs 2");
     QCOMPARE(failed.err.count('\n'), 2004);
     const QStringList lines = failed.err.split('\n').mid(2000);
@@ -450,6 +452,46 @@ void RowsTest::keepsFailedRows()
     QCOMPARE(m_folder->read("e").count('\n'), 2);
 }
 
+void RowsTest::extraKeys_data()
+{
+    QTest::addColumn<QString>("options");
+    QTest::addColumn<QString>("out");
+    QTest::addColumn<int>("failed");
+
+    QTest::newRow("refused") << "" << lineOf("2") << 2;
+    QTest::newRow("refused, asked for") << "--extra refuse" << lineOf("2") << 2;
+    QTest::newRow("ignored") << "--extra ignore" << lineOf("1") + lineOf("2") + lineOf("x") << 0;
+    QTest::newRow("kept") << "--extra keep"
+                          << "{\"r\":\"a1\",\"id\":1.50,\"\\u0061\":[1, {}]}\n" + lineOf("2") +
+                                 "{\"r\":\"ax\",\"id\":\"\\ud800\"}\n"
+                          << 0;
+}
+
+void RowsTest::extraKeys()
+{
+    QFETCH(QString, options);
+    QFETCH(QString, out);
+    QFETCH(int, failed);
+
+    QVERIFY(m_folder->write("task-x.json", QByteArray(sampleTask)
+                                               .replace(R"("n": {"type": "int", "value": 3})",
+                                                        R"("n": {"type": "string"})")));
+    QVERIFY(m_folder->write("extra", "{\"id\" :1.50, \"n\":\"1\",\"\\u0061\": [1, {}] }\n"
+                                     "{\"n\":2}\n"
+                                     "{\"n\":\"x\",\"id\":\"\\ud800\"}\n"));
+    for (const QString jobs : {" --jobs 1 ", " --jobs 3 "}) {
+        const auto outcome =
+            m_folder->runShell("$OPRUN run task-x.json --each extra --print r" + jobs + options);
+        QCOMPARE(outcome.out, out);
+        QCOMPARE(outcome.status, failed == 0 ? 0 : 1);
+        QCOMPARE(outcome.err.count('\n'), failed + 1);
+        QVERIFY2(failed == 0 ||
+                     outcome.err.startsWith("oprun: extra: line 1: the task has no variables "
+                                            "\"id\", \"a\"; expected n, r, word"),
+                 qPrintable(outcome.err));
+    }
+}
+
 void RowsTest::skips_data()
 {
     QTest::addColumn<QString>("options");
@@ -576,6 +618,10 @@ void RowsTest::refuses_data()
         "--on-error: \"stop\"; expected skip or keep");
     row("stop and keep", {"--each", "rows", "--on-error", "keep", "--fail-fast"},
         "--fail-fast: cannot go with \"--on-error keep\"");
+    row("extra what", {"--each", "rows", "--extra", "all"},
+        "--extra: \"all\"; expected refuse, ignore or keep");
+    row("extra keys of lines", {"--each", "rows", "--lines", "word", "--extra", "keep"},
+        "--extra: is about rows of JSON; leave out \"--lines\"");
     row("lines for no variable", {"--each", "rows", "--lines", "m"},
         "--lines: the task has no variable \"m\"; expected n, r, word");
     row("print no variable", {"--each", "rows", "--print", "m"},
@@ -583,7 +629,7 @@ void RowsTest::refuses_data()
     row("trace of rows", {"--each", "rows", "--trace"},
         "--trace: cannot go with rows; leave out \"--each\"");
     for (const QString option :
-         {"--out", "--errors", "--jobs", "--on-error", "--skip", "--first-line"}) {
+         {"--out", "--errors", "--jobs", "--on-error", "--extra", "--skip", "--first-line"}) {
         row(qPrintable(option), {option, "2"},
             option + ": is about rows; expected \"--each FILE\", too");
     }

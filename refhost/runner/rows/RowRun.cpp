@@ -17,6 +17,7 @@
 #include "refhost/runner/supervision/RunProgress.h"
 
 #include <QCommandLineParser>
+#include <QMap>
 
 #include <memory>
 #include <new>
@@ -58,6 +59,26 @@ std::optional<Problem> readNumbers(const QCommandLineParser &options, RowRun &ru
     if (auto problem = readNumber(options, RunOptions::skip(), qint64(0), mostLines, run.skipped))
         return problem;
     return readNumber(options, RunOptions::firstLine(), qint64(1), mostLines, run.firstLine);
+}
+
+/// Reads "--extra".
+std::optional<Problem> readExtra(const QCommandLineParser &options, RowRun &run)
+{
+    const QMap<QString, RowFormat::Extra> choices{
+        {QStringLiteral("refuse"), RowFormat::Extra::Refuse},
+        {QStringLiteral("ignore"), RowFormat::Extra::Ignore},
+        {QStringLiteral("keep"), RowFormat::Extra::Keep}};
+    const QString choice = options.value(RunOptions::extra());
+    const QString place = QStringLiteral("--extra");
+    if (!choices.contains(choice)) {
+        return unfitOption(
+            place, RunnerText::tr("%1; expected refuse, ignore or keep").arg(jsonText(choice)));
+    }
+    if (options.isSet(RunOptions::extra()) && options.isSet(RunOptions::lines())) {
+        return unfitOption(place, RunnerText::tr("is about rows of JSON; leave out \"--lines\""));
+    }
+    run.format.extra = choices.value(choice);
+    return std::nullopt;
 }
 
 /// Reads "--on-error".
@@ -244,7 +265,7 @@ Result<RowRun> rowRunFromOptions(const QCommandLineParser &options, const Task &
                            emptyFileName(Problem::Reason::UnwritableFile).message);
     if (const auto problem = readNumbers(options, run))
         return *problem;
-    if (const auto problem = readFailureChoice(options, run))
+    if (const auto problem = firstOf(readFailureChoice(options, run), readExtra(options, run)))
         return *problem;
     return run;
 }
