@@ -167,7 +167,7 @@ void HelpTest::completes_data()
     row("commands", {"d"}, "describe docs");
     row("all commands", {""}, qPrintable(m_commands.join(' ')));
     row("options of the program", {"--v"}, "--version");
-    row("options of a command", {"run", "--e"}, "--each --errors");
+    row("options of a command", {"run", "--e"}, "--each --errors --extra");
     row("types", {"describe", "text.f"}, "text.find text.fromNumber");
     row("types after an option", {"--plugin", PLUGIN_FILE, "describe", "text.p"}, "text.pad");
     row("types after an option with a sign", {"--plugin", "=", PLUGIN_FILE, "describe", "text.p"},
