@@ -143,15 +143,18 @@ QString listOr(const QStringList &words, const QString &none)
 std::optional<int> answerQuestion(const QCommandLineParser &parser)
 {
     Console console;
-    int status = Success;
     if (parser.isSet(Options::help())) {
         console.print(parser.helpText().trimmed());
-    } else if (parser.isSet(Options::version())) {
-        status = printVersions(parser, console);
-    } else {
-        return std::nullopt;
+        return console.flush() ? Success : BadInput;
     }
-    return console.flush() ? status : BadInput;
+    if (!parser.isSet(Options::version()))
+        return std::nullopt;
+    const auto answer = [&]() -> int {
+        const int status = printVersions(parser, console);
+        return console.flush() ? status : BadInput;
+    };
+    // The plug-ins are asked for their versions.
+    return supervise(answer, 0);
 }
 
 /// Prints the message, and the command line that prints the help text of the command, or that of

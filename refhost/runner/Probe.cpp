@@ -2,6 +2,7 @@
 
 #include "refhost/engine/FileBytes.h"
 #include "refhost/runner/ValidateOptions.h"
+#include "refhost/runner/supervision/ProcessEnd.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -15,8 +16,6 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTimer>
-
-#include <csignal>
 
 namespace {
 
@@ -53,43 +52,13 @@ private:
     QByteArray m_tail;
 };
 
-QString signalName(int number)
-{
-    switch (number) {
-    case SIGABRT:
-        return QStringLiteral("SIGABRT");
-    case SIGFPE:
-        return QStringLiteral("SIGFPE");
-    case SIGILL:
-        return QStringLiteral("SIGILL");
-    case SIGSEGV:
-        return QStringLiteral("SIGSEGV");
-    case SIGTERM:
-        return QStringLiteral("SIGTERM");
-#ifdef Q_OS_UNIX
-    case SIGBUS:
-        return QStringLiteral("SIGBUS");
-    case SIGKILL:
-        return QStringLiteral("SIGKILL");
-    case SIGPIPE:
-        return QStringLiteral("SIGPIPE");
-    case SIGTRAP:
-        return QStringLiteral("SIGTRAP");
-#endif
-    default:
-        return {};
-    }
-}
-
 /// How the process ended that gave no outcome.
 QString endingOf(const QProcess &process)
 {
     if (process.exitStatus() == QProcess::NormalExit)
         return QStringLiteral("ended without a result, with status %1").arg(process.exitCode());
     // Of a process that a signal has ended, Qt gives the number of the signal.
-    const QString name = signalName(process.exitCode());
-    return QStringLiteral("ended by signal %1").arg(process.exitCode()) +
-           (name.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(name));
+    return QStringLiteral("ended by ") + signalText(process.exitCode());
 }
 
 void addCircumstances(Outcome &outcome, const QString &progressFile, const LastWords &lastWords)

@@ -5,6 +5,8 @@
 #include "refhost/runner/ExitStatus.h"
 #include "refhost/runner/LanguageChoice.h"
 #include "refhost/runner/PluginChoice.h"
+#include "refhost/runner/RunnerText.h"
+#include "refhost/runner/supervision/RunProgress.h"
 
 #include "Operation.h"
 
@@ -24,6 +26,7 @@ int printVersions(const QCommandLineParser &options, Console &console)
     int status = Success;
     const auto translations = translate(files, languages.value(), console);
     for (const QString &file : files) {
+        RunProgress::current().activity.set(RunnerText::tr("loading %1").arg(file).toUtf8());
         const Result<LoadedPlugin> plugin = LoadedPlugin::load(file);
         if (!plugin) {
             console.complain(plugin.problem().toString());
@@ -34,5 +37,6 @@ int printVersions(const QCommandLineParser &options, Console &console)
         console.print(QStringLiteral("%1 %2, %3, %4")
                           .arg(manifest.id, manifest.version, manifest.name, file));
     }
+    RunProgress::current().activity.set({});
     return status;
 }

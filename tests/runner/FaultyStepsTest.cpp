@@ -330,6 +330,10 @@ void FaultyStepsTest::crashWhileLoading()
              QString("oprun: oprun was ended by %1 while loading %2\n")
                  .arg(actualEnding(ending, outcome.err), QString(FAULTY_PLUGIN)));
     QCOMPARE(outcome.status, 6);
+    QCOMPARE(
+        m_folder.run({"--version", "--plugin", FAULTY_PLUGIN}, {{"FAULT_AT_LOAD", QString(fault)}})
+            .status,
+        6);
 }
 
 /// The results are there, but the exit status is no success.

@@ -92,5 +92,7 @@ void markCrashes()
 {
     handleCrashes();
     std::atexit(&RunProgress::markThisThread);
+#ifndef Q_OS_DARWIN
     std::at_quick_exit(&RunProgress::markThisThread);
+#endif
 }

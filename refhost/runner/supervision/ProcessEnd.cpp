@@ -129,7 +129,7 @@ QString situation(const QStringList &steps, const ProcessEnd &end, const RunProg
 QString reasonMessage(const ProcessEnd &end, const RunProgress &run)
 {
     const QStringList steps = isWriting(end, run) ? QStringList() : stepsOf(end, run);
-    const QString sentence =
+    QString sentence =
         RunnerText::tr("oprun was %1%2%3")
             .arg(ending(end), situation(steps, end, run), causeText(end, run.hasRows));
     if (steps.isEmpty())
@@ -173,7 +173,7 @@ QString tallyMessage(const ProcessEnd &end, const RunProgress &run)
 
 QString signalText(int number)
 {
-    const QString text = QStringLiteral("signal %1").arg(number);
+    QString text = QStringLiteral("signal %1").arg(number);
     const auto *const found =
         std::find_if(std::begin(signalNames), std::end(signalNames),
                      [&](const SignalName &signal) { return signal.number == number; });

@@ -29,14 +29,29 @@
 
 namespace {
 
+/// Returns whether a line can be written to standard error without waiting. It may be a pipe whose
+/// reader takes nothing, which is not to keep the program from its end.
+bool takesMessages()
+{
+#ifdef Q_OS_UNIX
+    constexpr int patience = 100;
+    pollfd descriptor = {STDERR_FILENO, POLLOUT, 0};
+    return poll(&descriptor, 1, patience) != 0;
+#else
+    return true;
+#endif
+}
+
 int report(const ProcessEnd &end, const RunProgress &run)
 {
-    const Console console;
-    if (run.hasRows)
-        ProgressLine::clearLine();
-    for (const QString &line : end.messages(run))
-        console.complain(line);
     run.removeTemporaryFiles();
+    const Console console;
+    if (run.hasRows && takesMessages())
+        ProgressLine::clearLine();
+    for (const QString &line : end.messages(run)) {
+        if (takesMessages())
+            console.complain(line);
+    }
     return end.exitStatus();
 }
 
@@ -270,10 +285,10 @@ private:
 
     int exitStatus() const
     {
-        if (WIFEXITED(m_status))
-            return m_run.isFinished
-                       ? WEXITSTATUS(m_status)
-                       : report({ProcessEnd::Reason::Exit, WEXITSTATUS(m_status)}, m_run);
+        if (WIFEXITED(m_status)) {
+            const int status = WEXITSTATUS(m_status);
+            return m_run.isFinished ? status : report({ProcessEnd::Reason::Exit, status}, m_run);
+        }
         const int signal = WTERMSIG(m_status);
         if (signal == SIGKILL && m_killedFor)
             return report(*m_killedFor, m_run);
