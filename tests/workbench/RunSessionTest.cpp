@@ -666,6 +666,10 @@ void RunSessionTest::stepThatThrows()
     QCOMPARE(m_bench->value("r").toString(), "-a");
     QCOMPARE(m_bench->run.lastRecord(id)->warnings.size(), 1);
     QVERIFY(m_bench->run.lastRecord(id)->warnings.first().contains("out of order"));
+
+    const int other = m_bench->addDeed([](VariableScope &) { throw 42; });
+    QVERIFY(m_bench->runs());
+    QVERIFY(m_bench->run.lastRecord(other)->warnings.first().contains("int"));
 }
 
 void RunSessionTest::staysResponsive()
