@@ -194,9 +194,9 @@ void FaultyStepsTest::failedStepInErrors()
         run("throw", {"--each", "rows", "--print", "r", "--errors", "errors", "--out", "out"});
     QCOMPARE(outcome.status, 5);
     QCOMPARE(m_folder.read("errors"),
-             QByteArray("{\"line\":3,\"plugin\":\"libFaultyPlugin.so\",\"step\":1,"
-                        "\"threw\":\"std::runtime_error: disk on fire\",\"type\":\"faulty.step\"}"
-                        "\n"));
+             QByteArray("{\"line\":3,\"step\":1,\"type\":\"faulty.step\","
+                        "\"plugin\":\"libFaultyPlugin.so\","
+                        "\"threw\":\"std::runtime_error: disk on fire\"}\n"));
     QCOMPARE(m_folder.read("out").count('\n'), 5);
 }
 
