@@ -1062,5 +1062,9 @@
         <source>the task has no variables %1; expected %2</source>
         <translation>任务中没有变量 %1；应为：%2</translation>
     </message>
+    <message>
+        <source>%1… (%2 characters) …%3</source>
+        <translation>%1……（共 %2 个字符）……%3</translation>
+    </message>
 </context>
 </TS>

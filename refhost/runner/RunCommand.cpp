@@ -1,5 +1,6 @@
 #include "refhost/runner/RunCommand.h"
 
+#include "refhost/engine/Excerpt.h"
 #include "refhost/engine/JsonValue.h"
 #include "refhost/engine/TaskRunner.h"
 #include "refhost/runner/Console.h"
@@ -64,7 +65,7 @@ void complainOfStep(const StepReport &report, StepMessages &messages)
     for (const QString &warning : report.warnings) {
         const QString line = QStringLiteral("%1: steps[%2] (%3): %4")
                                  .arg(messages.run.file, QString::number(report.index),
-                                      report.step->typeId(), warning);
+                                      report.step->typeId(), lineExcerpt(warning));
         if (!messages.repeated.isShown(report.index, line))
             continue;
         messages.console.complain(line);

@@ -21,6 +21,7 @@ private Q_SLOTS:
     void badRows();
     void nulCharacters();
     void longRows();
+    void longWarnings();
     void repeatedLines();
     void errorFile();
     void warnings();
@@ -224,6 +225,33 @@ void RowsTest::longRows()
     const QByteArray errors = m_folder->read("errors");
     for (const QString &whole : {row, member, name})
         QVERIFY(errors.contains(QString(whole).replace('"', "\\\"").toUtf8()));
+}
+
+/// A step may log a value of a row. Its end tells what the step did.
+void RowsTest::longWarnings()
+{
+    QVERIFY(m_folder->write("number.json", R"({
+        "variables": {"text": {"type": "string"}, "n": {"type": "double"}},
+        "steps": [{"type": "text.toNumber", "sourceText": "$text", "resultVar": "n"}]
+    })"));
+    const QString start = "[TextToNumber] 无法将 \"";
+    const QString end = "\" 解析为数值，已跳过";
+    const QString value(100'000, 'x');
+    QVERIFY(m_folder->write("long", value.toUtf8() + '\n'));
+    const QStringList arguments{"run",     "number.json", "--each",  "long",
+                                "--lines", "text",        "--print", "n"};
+    const QString line = "oprun: long: line 1: steps[0] (text.toNumber): " + start +
+                         value.left(160 - start.size()) + "… (" +
+                         QString::number(start.size() + value.size() + end.size()) +
+                         " characters) …" + value.left(40 - end.size()) + end + '\n';
+    const auto outcome = m_folder->run(arguments);
+    QVERIFY2(outcome.err.startsWith(line), qPrintable(outcome.err.left(2000)));
+    const auto once = m_folder->runShell("$OPRUN run number.json --set text=$(cat long)");
+    QVERIFY2(once.err.startsWith(QString(line).replace("long: line 1", "number.json")),
+             qPrintable(once.err.left(2000)));
+
+    QCOMPARE(m_folder->run(arguments + QStringList{"--errors", "errors"}).status, 0);
+    QVERIFY(m_folder->read("errors").contains(value.toUtf8()));
 }
 
 /// Standard error has the first 1,000 lines of a kind and a count of the rest.

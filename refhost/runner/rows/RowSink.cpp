@@ -102,11 +102,12 @@ QString RowSink::warningLine(const RowNote &note) const
 {
     const StepWarning &warning = note.warning;
     const QString place = QStringLiteral("line %1").arg(note.line);
+    const QString line = lineExcerpt(warning.line);
     if (warning.isFailure)
         return failureMessage(place, warning.step, warning.typeId, m_plugins.value(warning.step),
-                              warning.line);
+                              line);
     return QStringLiteral("%1: steps[%2] (%3): %4")
-        .arg(place, QString::number(warning.step), warning.typeId, warning.line);
+        .arg(place, QString::number(warning.step), warning.typeId, line);
 }
 
 void RowSink::complain(const RowNote &note)
