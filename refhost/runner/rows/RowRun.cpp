@@ -239,6 +239,21 @@ QString summary(const RowTally &tally, qint64 skipped, const RowEnd &end, const 
     return text;
 }
 
+/// Notes what the messages on a crash need.
+void noteRun(const RowRun &run, const RowSource &source, const OutputFile &out,
+             const OutputFile &errors)
+{
+    RunProgress &progress = RunProgress::current();
+    progress.setSteps(source.name(), run.stepNames);
+    progress.hasRows = true;
+    if (!out.isStandardOutput())
+        progress.output.set(run.out.toUtf8());
+    for (const QByteArray &file : {out.temporaryFile(), errors.temporaryFile()}) {
+        if (!file.isEmpty())
+            progress.addTemporaryFile(file);
+    }
+}
+
 } // namespace
 
 Result<RowRun> rowRunFromOptions(const QCommandLineParser &options, const Task &task)
@@ -284,17 +299,9 @@ int runRows(const Task &task, const RowRun &run, WarningExplainer &explainer,
         console.complain(problem->toString());
         return BadInput;
     }
-    RunProgress &progress = RunProgress::current();
-    progress.setSteps(source.name(), run.stepNames);
-    progress.hasRows = true;
-    if (!out.isStandardOutput())
-        progress.output.set(run.out.toUtf8());
-    for (const QByteArray &file : {out.temporaryFile(), errors.temporaryFile()}) {
-        if (!file.isEmpty())
-            progress.addTemporaryFile(file);
-    }
+    noteRun(run, source, out, errors);
     // Until here, where files such as pipes may have to be waited for, Ctrl-C ends the program.
-    Interruption interruption(progress.isSupervised);
+    Interruption interruption(RunProgress::current().isSupervised);
     Interruption::ignoreBrokenPipes();
     qint64 skipped = 0;
     problem = begin(run, interruption, source, skipped);
