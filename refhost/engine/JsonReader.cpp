@@ -29,7 +29,7 @@ constexpr std::size_t deepestNesting = 1024;
 class Allocator
 {
 public:
-    static const bool kNeedFree = true; // NOLINT(readability-identifier-naming): RapidJSON's
+    [[maybe_unused]] static const bool kNeedFree = true;
 
     void *Malloc(std::size_t size) { return size == 0 ? nullptr : checked(std::malloc(size)); }
     void *Realloc(void *memory, std::size_t, std::size_t size)

@@ -1,3 +1,4 @@
+#include "tests/fuzz/JsonCheck.h"
 #include "tests/fuzz/RecordCheck.h"
 #include "tests/fuzz/SearchCheck.h"
 #include "tests/fuzz/StepCheck.h"
@@ -33,6 +34,7 @@ void FuzzCorpusTest::addChecks()
     QTest::newRow("step") << &checkStep;
     QTest::newRow("search") << &checkSearch;
     QTest::newRow("record") << &checkRecord;
+    QTest::newRow("json") << &checkJson;
 }
 
 QString FuzzCorpusTest::run(const QByteArray &bytes)
