@@ -1,7 +1,8 @@
 # Brings the translations in FOLDER up to date with the texts in the sources: adds what is new and
 # takes out what is gone. The engine is in English and is translated to Chinese; the window is in
-# Chinese and is translated to English, together with what the engine calls things. The plug-in is in
-# Chinese and is translated to English.
+# Chinese and is translated to English, together with what the engine calls things. oprun is in English
+# and is translated to Chinese, together with what the engine calls things, which oprun calls as task
+# files do. The plug-in is in Chinese and is translated to English.
 #
 #   cmake [-D FOLDER=...] -P UpdateTranslations.cmake
 
@@ -62,4 +63,5 @@ update(TextOperPlugin_en.ts zh_CN en operations plugin ${ANNOTATIONS})
 file(REMOVE ${ANNOTATIONS})
 
 update(opworkbench_zh.ts en zh_CN refhost/engine)
+update(oprun_zh.ts en zh_CN refhost/runner refhost/engine/EngineText.cpp refhost/engine/Problem.cpp)
 update(opworkbench_en.ts zh_CN en refhost/workbench refhost/engine/EngineText.cpp)

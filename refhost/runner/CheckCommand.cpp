@@ -1,10 +1,12 @@
 #include "refhost/runner/CheckCommand.h"
 
+#include "refhost/engine/EngineText.h"
 #include "refhost/engine/check/TaskCheck.h"
 #include "refhost/runner/Console.h"
 #include "refhost/runner/ExitStatus.h"
 #include "refhost/runner/OneLine.h"
 #include "refhost/runner/Options.h"
+#include "refhost/runner/RunnerText.h"
 #include "refhost/runner/TaskFile.h"
 
 #include "Operation.h"
@@ -27,33 +29,58 @@ int countOf(Severity severity, const QList<Finding> &findings)
     return static_cast<int>(count);
 }
 
-/// "1 error", "2 errors".
-QString counted(int count, const QString &noun)
+QString severityText(Severity severity)
 {
-    const QString ending = count == 1 ? QString() : QStringLiteral("s");
-    return QStringLiteral("%1 %2%3").arg(QString::number(count), noun, ending);
+    switch (severity) {
+    case Severity::Error:
+        return RunnerText::tr("error");
+    case Severity::Warning:
+        return RunnerText::tr("warning");
+    case Severity::Note:
+        break;
+    }
+    return RunnerText::tr("note");
+}
+
+/// Returns a number of findings of one severity, such as "1 error" or "2 errors".
+QString counted(int count, Severity severity)
+{
+    const QString number = QString::number(count);
+    switch (severity) {
+    case Severity::Error:
+        return count == 1 ? RunnerText::tr("1 error") : RunnerText::tr("%1 errors").arg(number);
+    case Severity::Warning:
+        return count == 1 ? RunnerText::tr("1 warning") : RunnerText::tr("%1 warnings").arg(number);
+    case Severity::Note:
+        break;
+    }
+    return count == 1 ? RunnerText::tr("1 note") : RunnerText::tr("%1 notes").arg(number);
 }
 
 QString summaryOf(const QList<Finding> &findings)
 {
     if (findings.isEmpty())
-        return QStringLiteral("no findings");
+        return RunnerText::tr("no findings");
     QStringList parts;
     for (const Severity severity : severities) {
         if (const int count = countOf(severity, findings))
-            parts.append(counted(count, severityName(severity)));
+            parts.append(counted(count, severity));
     }
-    return QStringLiteral("%1: %2").arg(counted(findings.size(), QStringLiteral("finding")),
-                                        parts.join(QLatin1String(", ")));
+    const QString all = findings.size() == 1
+                            ? RunnerText::tr("1 finding")
+                            : RunnerText::tr("%1 findings").arg(QString::number(findings.size()));
+    return RunnerText::tr("%1: %2").arg(all, listText(parts));
 }
 
 void printFinding(const Finding &finding, Console &console)
 {
-    console.print(oneLine(QStringLiteral("%1: %2: %3 [%4]")
-                              .arg(finding.place(), severityName(finding.severity), finding.message,
+    const QString indent = QStringLiteral("  ");
+    //: the place of a finding, how grave it is, what it is, and its name in brackets
+    console.print(oneLine(RunnerText::tr("%1: %2: %3 [%4]")
+                              .arg(finding.place(), severityText(finding.severity), finding.message,
                                    mistakeId(finding.mistake))));
-    console.print(oneLine(QStringLiteral("  what happens: ") + finding.consequence));
-    console.print(oneLine(QStringLiteral("  what to do: ") + finding.remedy));
+    console.print(indent + oneLine(RunnerText::tr("what happens: %1").arg(finding.consequence)));
+    console.print(indent + oneLine(RunnerText::tr("what to do: %1").arg(finding.remedy)));
 }
 
 QJsonObject findingToJson(const Finding &finding)
@@ -107,6 +134,11 @@ QStringList CheckCommand::arguments() const
 QList<QCommandLineOption> CheckCommand::options() const
 {
     return {Options::json()};
+}
+
+bool CheckCommand::isForPrograms(const QCommandLineParser &options) const
+{
+    return options.isSet(Options::json());
 }
 
 int CheckCommand::runWith(const OperationCatalog &catalog, const QCommandLineParser &options,

@@ -13,6 +13,7 @@ public:
     QList<QCommandLineOption> options() const override;
 
 protected:
+    bool isForPrograms(const QCommandLineParser &options) const override;
     int runWith(const OperationCatalog &catalog, const QCommandLineParser &options,
                 const QStringList &arguments, Console &console) const override;
 };

@@ -7,6 +7,7 @@
 #include "refhost/runner/ExitStatus.h"
 #include "refhost/runner/Options.h"
 #include "refhost/runner/PropertyRemarks.h"
+#include "refhost/runner/RunnerText.h"
 #include "refhost/runner/TextColumns.h"
 
 #include "Operation.h"
@@ -56,9 +57,9 @@ void printOperation(const CatalogEntry &entry, const OperationSchema &schema, Co
 {
     console.print(QStringLiteral("%1  %2  %3")
                       .arg(entry.typeId, entry.prototype->typeName(), entry.prototype->icon()));
-    QList<QStringList> rows{{QStringLiteral("PROPERTY"), QStringLiteral("LABEL"),
-                             QStringLiteral("EDITOR"), QStringLiteral("DEFAULT"),
-                             QStringLiteral("REMARKS")}};
+    QList<QStringList> rows{{RunnerText::tr("PROPERTY"), RunnerText::tr("LABEL"),
+                             RunnerText::tr("EDITOR"), RunnerText::tr("DEFAULT"),
+                             RunnerText::tr("REMARKS")}};
     for (const PropertySchema &property : schema.properties()) {
         rows.append({property.name, property.shownLabel, editorOf(property),
                      jsonText(variantToJson(property.defaultValue)), remarksOn(property)});

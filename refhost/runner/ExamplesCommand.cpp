@@ -33,11 +33,11 @@ void printExample(const WorkedExample &example, const OperationSchema &schema, C
         const QString value = jsonText(example.settings.value(name));
         console.print(QStringLiteral("      %1: %2").arg(name, value));
     }
-    const QString result = example.result.isUndefined() ? QStringLiteral("nothing is written")
+    const QString result = example.result.isUndefined() ? RunnerText::tr("nothing is written")
                                                         : jsonText(example.result);
     console.print(QStringLiteral("      -> %1 (%2)").arg(result, example.into));
     for (const QString &line : example.warnings)
-        console.print(QStringLiteral("      warning: ") + line);
+        console.print(QStringLiteral("      ") + RunnerText::tr("warning: %1").arg(line));
 }
 
 void printPage(const CatalogEntry &entry, const OperationPage &page, Console &console)
@@ -51,14 +51,14 @@ void printPage(const CatalogEntry &entry, const OperationPage &page, Console &co
 QString shown(const ExampleOutcome &outcome)
 {
     QStringList parts;
-    parts.append(outcome.result.isUndefined() ? QStringLiteral("nothing written")
+    parts.append(outcome.result.isUndefined() ? RunnerText::tr("nothing written")
                                               : jsonText(outcome.result));
     for (const QString &line : outcome.warnings)
-        parts.append(QStringLiteral("warning ") + line);
+        parts.append(RunnerText::tr("warning %1").arg(line));
     if (outcome.failure)
-        parts.append(QStringLiteral("threw ") + *outcome.failure);
+        parts.append(RunnerText::tr("threw %1").arg(*outcome.failure));
     for (const QString &name : outcome.others)
-        parts.append(QStringLiteral("written to ") + name);
+        parts.append(RunnerText::tr("written to %1").arg(name));
     return parts.join(QLatin1String(", "));
 }
 
@@ -77,7 +77,7 @@ int differences(const CatalogEntry &entry, const OperationPage &page,
             continue;
         ++count;
         const QString found = actual ? shown(actual.value()) : actual.problem().toString();
-        console.complain(QStringLiteral("%1, example \"%2\": %3; expected %4")
+        console.complain(RunnerText::tr("%1, example \"%2\": %3; expected %4")
                              .arg(entry.typeId, example.name, found, shown(expected)));
     }
     return count;
@@ -133,6 +133,7 @@ int ExamplesCommand::runWith(const OperationCatalog &catalog, const QCommandLine
             printPage(entry, page, console);
     }
     if (options.isSet(checkOption()))
-        console.print(QStringLiteral("%1 examples, %2 differ").arg(run).arg(differing));
+        console.print(RunnerText::tr("%1 examples, %2 differ")
+                          .arg(QString::number(run), QString::number(differing)));
     return differing == 0 ? Success : Differs;
 }

@@ -9,15 +9,23 @@
 #include "refhost/runner/RunnerText.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QTranslator>
 
 #include <algorithm>
 
 namespace {
 
-/// The language of the sources, and those that stand beside the plug-ins, sorted.
+QString englishLanguage()
+{
+    return QStringLiteral("en");
+}
+
+/// The languages of the messages, one of which is that of the plug-ins' sources, and those that
+/// stand beside the plug-ins, sorted.
 QStringList knownLanguages(const QStringList &plugins)
 {
-    QStringList languages{sourceLanguage()};
+    QStringList languages{sourceLanguage(), englishLanguage()};
     for (const QString &plugin : plugins)
         languages.append(PluginTranslation::languagesOf(plugin));
     languages.removeDuplicates();
@@ -33,7 +41,48 @@ bool isKnown(const QString &language, const QStringList &known)
                        [&](const QString &name) { return known.contains(name); });
 }
 
+/// Whether the first of the languages in which there are messages is Chinese.
+bool isChinese(const QStringList &languages)
+{
+    for (const QString &language : languages) {
+        if (isSourceLanguage(language))
+            return true;
+        if (languageAndParents(language).constLast() == englishLanguage())
+            return false;
+    }
+    return false;
+}
+
+/// By this name the translators of the messages are found again.
+QString translatorName()
+{
+    return QStringLiteral("messages");
+}
+
 } // namespace
+
+void installMessages(const QStringList &languages)
+{
+    auto *const application = QCoreApplication::instance();
+    qDeleteAll(
+        application->findChildren<QTranslator *>(translatorName(), Qt::FindDirectChildrenOnly));
+    if (!isChinese(languages))
+        return;
+    // The engine's Chinese is made for a window. What oprun calls things differs, and is found
+    // first, since it is installed last.
+    for (const char *file : {"opworkbench_zh", "oprun_zh"}) {
+        auto *const translator = new QTranslator(application);
+        translator->setObjectName(translatorName());
+        // Without the file the messages stay in English.
+        if (translator->load(QLatin1String(file), QStringLiteral(":/messages")))
+            QCoreApplication::installTranslator(translator);
+    }
+}
+
+QStringList messageLanguages(const QCommandLineParser &options)
+{
+    return options.values(Options::language()) + localeLanguages();
+}
 
 Result<QStringList> chosenLanguages(const QCommandLineParser &options, const QStringList &plugins)
 {

@@ -10,6 +10,7 @@
 #include "refhost/runner/ExamplesCommand.h"
 #include "refhost/runner/ExitStatus.h"
 #include "refhost/runner/ExplainCommand.h"
+#include "refhost/runner/LanguageChoice.h"
 #include "refhost/runner/OptionMisuse.h"
 #include "refhost/runner/Options.h"
 #include "refhost/runner/PackCommand.h"
@@ -251,6 +252,7 @@ int runOprun(const QStringList &arguments)
     prepare(parser, commands);
     // The options of the command are not known yet; an unknown one counts only without a command.
     parser.parse(arguments);
+    installMessages(messageLanguages(parser));
     const QStringList given = parser.positionalArguments();
     if (const Command *const command = findCommand(commands, given.value(0)))
         return runCommand(*command, arguments);

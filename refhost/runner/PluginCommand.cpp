@@ -18,8 +18,8 @@ int PluginCommand::run(const QCommandLineParser &options, const QStringList &arg
     const QStringList plugins = chosenPlugins(options);
     if (plugins.isEmpty()) {
         console.complain(
-            QStringLiteral("no plug-in found in %1; expected one there or --plugin FILE")
-                .arg(ownPluginFolders().join(QLatin1String(" or "))));
+            RunnerText::tr("no plug-in found in %1; expected one there or --plugin FILE")
+                .arg(choiceText(ownPluginFolders())));
         return PluginNotLoaded;
     }
     const QList<FileRole> named = files(options, arguments);
@@ -35,6 +35,8 @@ int PluginCommand::run(const QCommandLineParser &options, const QStringList &arg
         console.complain(languages.problem().toString());
         return BadInput;
     }
+    if (isForPrograms(options))
+        installMessages(languages.value());
     const auto translations = translate(plugins, languages.value(), console);
     RunProgress &progress = RunProgress::current();
     const OperationCatalog catalog(plugins, {}, [&](const QString &file) {

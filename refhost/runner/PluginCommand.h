@@ -21,8 +21,8 @@ public:
             Console &console) const final;
 
 protected:
-    /// Whether the results have texts of plug-ins for programs to read, or for the record: these
-    /// are then the same in every locale.
+    /// Whether the results have texts of plug-ins, or messages, for programs to read, or for the
+    /// record: these are then the same in every locale.
     virtual bool isForPrograms(const QCommandLineParser &options) const;
 
     /// Returns the files that the command reads and writes, without the plug-ins; nothing for a

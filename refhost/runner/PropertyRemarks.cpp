@@ -1,5 +1,8 @@
 #include "refhost/runner/PropertyRemarks.h"
 
+#include "refhost/engine/EngineText.h"
+#include "refhost/runner/RunnerText.h"
+
 #include <QStringList>
 
 QString editorOf(const PropertySchema &property)
@@ -22,8 +25,8 @@ QString remarksOn(const PropertySchema &property)
         QStringList values;
         for (const int value : property.conditionValues)
             values.append(QString::number(value));
-        remarks.append(QStringLiteral("shown when %1 is %2")
-                           .arg(property.conditionName, values.join(QLatin1String(" or "))));
+        remarks.append(
+            RunnerText::tr("shown when %1 is %2").arg(property.conditionName, choiceText(values)));
     }
     return remarks.join(QLatin1String("; "));
 }

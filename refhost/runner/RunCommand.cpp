@@ -9,7 +9,6 @@
 #include "refhost/runner/LanguageChoice.h"
 #include "refhost/runner/OneLine.h"
 #include "refhost/runner/Options.h"
-#include "refhost/runner/PluginChoice.h"
 #include "refhost/runner/RepeatedLines.h"
 #include "refhost/runner/RunOptions.h"
 #include "refhost/runner/RunnerText.h"
@@ -227,6 +226,12 @@ Result<double> RunCommand::timeoutSeconds(const QCommandLineParser &options) con
     return RunOptions::timeoutSeconds(options);
 }
 
+bool RunCommand::isForPrograms(const QCommandLineParser &options) const
+{
+    return options.isSet(RunOptions::errors()) ||
+           options.value(RunOptions::onError()) == QLatin1String("keep");
+}
+
 int RunCommand::runWith(const OperationCatalog &catalog, const QCommandLineParser &options,
                         const QStringList &arguments, Console &console) const
 {
@@ -244,8 +249,7 @@ int RunCommand::runWith(const OperationCatalog &catalog, const QCommandLineParse
         console.complain(problem->toString());
         return BadInput;
     }
-    const Result<QStringList> languages = chosenLanguages(options, chosenPlugins(options));
-    WarningExplainer explainer(catalog, languages ? languages.value() : QStringList(), console);
+    WarningExplainer explainer(catalog, messageLanguages(options), console);
     const QStringList plugins = pluginsOfSteps(task.value(), catalog);
     if (RunOptions::asksForRows(options))
         return runOnRows(task.value(), plugins, options, explainer, console);

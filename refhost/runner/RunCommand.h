@@ -14,6 +14,7 @@ public:
     Result<double> timeoutSeconds(const QCommandLineParser &options) const override;
 
 protected:
+    bool isForPrograms(const QCommandLineParser &options) const override;
     QList<FileRole> files(const QCommandLineParser &options,
                           const QStringList &arguments) const override;
     int runWith(const OperationCatalog &catalog, const QCommandLineParser &options,

@@ -5,6 +5,7 @@
 #include "refhost/engine/TaskRunner.h"
 #include "refhost/runner/Console.h"
 #include "refhost/runner/OneLine.h"
+#include "refhost/runner/RunnerText.h"
 #include "refhost/runner/WarningExplainer.h"
 
 #include "Operation.h"
@@ -33,21 +34,21 @@ QString briefText(const QVariant &value)
         const QString text = value.toString();
         if (text.size() <= briefSize)
             return valueText(text);
-        return QStringLiteral("%1 (%2 characters)")
+        return RunnerText::tr("%1 (%2 characters)")
             .arg(valueText(beginning(text)))
             .arg(text.size());
     }
     QString json = valueText(value);
     if (json.size() <= briefSize)
         return json;
-    return QStringLiteral("%1 (%2 elements)").arg(beginning(json)).arg(value.toList().size());
+    return RunnerText::tr("%1 (%2 elements)").arg(beginning(json)).arg(value.toList().size());
 }
 
 /// What a text operand comes to; nothing to say of a literal that stays as it is.
 QString foundText(const OperandRecord &operand)
 {
     if (!operand.found.isValid())
-        return QStringLiteral("\"\", since there is no such value");
+        return RunnerText::tr("\"\", since there is no such value");
     const QString text = textOfValue(operand.found);
     return text == operand.written ? QString() : briefText(text);
 }
@@ -56,7 +57,7 @@ QString foundNumber(const OperandRecord &operand)
 {
     const auto number = numberInValue(operand.found);
     if (!number)
-        return QStringLiteral("no number");
+        return RunnerText::tr("no number");
     const QString text = valueText(*number);
     return text == operand.written ? QString() : text;
 }
@@ -69,7 +70,7 @@ QString found(const OperandRecord &operand, const VariableScope &scope)
     if (operand.role == PropertyRole::Number)
         return foundNumber(operand);
     if (scope.typeOf(operand.written) == VarType::None)
-        return QStringLiteral("no variable");
+        return RunnerText::tr("no variable");
     return briefText(operand.found);
 }
 
@@ -77,7 +78,7 @@ QString operandLine(const OperandRecord &operand, const VariableScope &scope)
 {
     const QString line = operand.property + QStringLiteral(": ") + briefText(operand.written);
     const QString value = found(operand, scope);
-    return value.isEmpty() ? line : line + QStringLiteral(" is ") + value;
+    return value.isEmpty() ? line : RunnerText::tr("%1 is %2").arg(line, value);
 }
 
 } // namespace
@@ -101,11 +102,11 @@ void StepTrace::show(const StepReport &report, const VariableScope &scope,
     for (const QString &name : report.written)
         console.note(indent + oneLine(name) + QStringLiteral(" = ") + valueText(scope.get(name)));
     for (const QString &line : report.warnings) {
-        console.note(indent + QStringLiteral("warning: ") + oneLine(line));
+        console.note(indent + RunnerText::tr("warning: %1").arg(oneLine(line)));
         explainer.explain(report.step->typeId(), line, indent);
     }
     if (report.failure)
         console.note(indent + QStringLiteral("failed: it threw ") + oneLine(*report.failure));
     const double microseconds = static_cast<double>(report.nanoseconds) / 1000;
-    console.note(indent + QStringLiteral("took %1 µs").arg(microseconds, 0, 'f', 1));
+    console.note(indent + RunnerText::tr("took %1 µs").arg(microseconds, 0, 'f', 1));
 }

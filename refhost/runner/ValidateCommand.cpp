@@ -31,11 +31,11 @@ QString misuse(const QCommandLineParser &parser, const ValidateOptions &options,
                const QStringList &files)
 {
     if (parser.isSet(Options::plugin()))
-        return QStringLiteral("--plugin is for other commands; expected PLUGIN after the command");
+        return RunnerText::tr("--plugin is for other commands; expected PLUGIN after the command");
     if (options.list && !files.isEmpty())
-        return QStringLiteral("%1; expected no plug-in with --list").arg(jsonText(files.first()));
+        return RunnerText::tr("%1; expected no plug-in with --list").arg(jsonText(files.first()));
     if (!options.list && files.isEmpty())
-        return QStringLiteral("no plug-in; expected PLUGIN... or --list");
+        return RunnerText::tr("no plug-in; expected PLUGIN... or --list");
     return {};
 }
 

@@ -65,10 +65,8 @@ Result<quint32> numberOf(const QCommandLineParser &parser, const QCommandLineOpt
     return Problem{Problem::Reason::UnfitValue,
                    {},
                    QStringLiteral("--") + option.names().constFirst(),
-                   QStringLiteral("%1; expected a whole number from %2 to %3")
-                       .arg(jsonText(text))
-                       .arg(least)
-                       .arg(most)};
+                   RunnerText::tr("%1; expected a whole number from %2 to %3")
+                       .arg(jsonText(text), QString::number(least), QString::number(most))};
 }
 
 } // namespace

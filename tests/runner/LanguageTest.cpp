@@ -2,6 +2,7 @@
 #include "tests/support/QuietTest.h"
 #include "tests/support/TranslationFile.h"
 
+#include <QRegularExpression>
 #include <QtTest>
 
 #include <memory>
@@ -23,6 +24,14 @@ private Q_SLOTS:
     void commandsSpeakEnglish();
     void programsReadTheSameEverywhere_data();
     void programsReadTheSameEverywhere();
+    void messages_data();
+    void messages();
+    void nothingStaysEnglish_data();
+    void nothingStaysEnglish();
+    void findingsForPrograms();
+    void errorsForPrograms();
+    void messagesAreTranslated_data();
+    void messagesAreTranslated();
     void tasksAreTheSameInEveryLanguage();
     void catalogueOrderStays();
     void unusableTranslation();
@@ -41,6 +50,7 @@ private:
 namespace {
 
 const Environment english{{"LC_ALL", "en_US.UTF-8"}};
+const Environment chinese{{"LC_ALL", "zh_CN.UTF-8"}};
 
 /// The type identifiers in the lines of a catalogue.
 QStringList typeIds(const QString &catalog)
@@ -185,6 +195,160 @@ void LanguageTest::programsReadTheSameEverywhere()
     QVERIFY2(asked.out.contains(inEnglish), qPrintable(asked.out));
     if (inEnglish.isEmpty())
         QCOMPARE(asked.bytes, plain.bytes);
+}
+
+void LanguageTest::messages_data()
+{
+    QTest::addColumn<Environment>("environment");
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<bool>("isChinese");
+    const auto row = [](const char *name, const Environment &environment,
+                        const QStringList &options, bool isChinese) {
+        QTest::newRow(name) << environment << options << isChinese;
+    };
+    row("C", {{"LC_ALL", "C"}}, {}, false);
+    row("C before the list", {{"LC_ALL", "C"}, {"LANGUAGE", "zh"}}, {}, false);
+    row("C in UTF-8", {{"LC_ALL", "C.UTF-8"}}, {}, false);
+    row("POSIX", {{"LC_ALL", "POSIX"}}, {}, false);
+    row("English", english, {}, false);
+    row("German", {{"LC_ALL", "de_DE.UTF-8"}}, {}, false);
+    row("no language", {{"LC_ALL", "tlh_XX.UTF-8"}}, {}, false);
+    row("Chinese", chinese, {}, true);
+    row("Chinese of messages", {{"LC_ALL", ""}, {"LANG", "C"}, {"LC_MESSAGES", "zh_CN"}}, {}, true);
+    row("Chinese of elsewhere", {{"LC_ALL", "zh_TW.UTF-8"}}, {}, true);
+    row("second of the list", {{"LC_ALL", "de_DE"}, {"LANGUAGE", "de:zh_CN:en"}}, {}, true);
+    row("behind English in the list", {{"LC_ALL", "zh_CN"}, {"LANGUAGE", "en:zh"}}, {}, false);
+    row("Chinese asked for", english, {"--lang", "zh"}, true);
+    row("Chinese asked for with a country", {}, {"--lang=zh-CN"}, true);
+    row("English asked for", chinese, {"--lang", "en"}, false);
+    row("English asked for with a country", chinese, {"--lang=en_GB"}, false);
+}
+
+void LanguageTest::messages()
+{
+    QFETCH(Environment, environment);
+    QFETCH(QStringList, options);
+    QFETCH(bool, isChinese);
+    QVERIFY(m_folder->write("finding.json", R"({"steps": [{"type": "text.reverse"}]})"));
+    QVERIFY(m_folder->write("problem.json", R"({"steps": 5})"));
+
+    const auto found = run(QStringList{"check", "finding.json"} + options, environment);
+    QCOMPARE(found.err, QString());
+    QCOMPARE(found.out.section('\n', 0, 0),
+             QString(isChinese ? "steps[0] text.reverse resultVar: 错误：未指定结果变量 "
+                                 "[empty-result]"
+                               : "steps[0] text.reverse resultVar: error: no result variable is "
+                                 "named [empty-result]"));
+    QCOMPARE(found.out.trimmed().section('\n', -1),
+             QString(isChinese ? "发现 1 个问题：1 个错误" : "1 finding: 1 error"));
+    const auto refused = run(QStringList{"check", "problem.json"} + options, environment);
+    QCOMPARE(refused.err,
+             QString(isChinese ? "oprun: problem.json: steps: 此处是 5；应为：由步骤组成的数组\n"
+                               : "oprun: problem.json: steps: 5; expected an array of steps\n"));
+    const auto misused = run(QStringList{"check"} + options, environment);
+    QCOMPARE(misused.err,
+             QString(isChinese ? "oprun: check: 没有参数；应为：TASK。请运行 \"oprun check --help\" "
+                                 "查看用法。\n"
+                               : "oprun: check: no argument; expected TASK. Try \"oprun check "
+                                 "--help\".\n"));
+}
+
+void LanguageTest::nothingStaysEnglish_data()
+{
+    QTest::addColumn<QString>("line");
+    for (const char *line : {"",
+                             "nothing",
+                             "--unknown",
+                             "check",
+                             "check --unknown",
+                             "check a b",
+                             "check missing.json",
+                             "check task.json --plugin missing.so",
+                             "run task.json --set x",
+                             "run task.json --set a=b",
+                             "run task.json --out a",
+                             "run task.json --each rows --trace",
+                             "run task.json --each missing",
+                             "run task.json --each rows --jobs 0",
+                             "run task.json --each rows --out rows --errors rows",
+                             "run task.json --each rows",
+                             "run task.json --each rows --skip x",
+                             "run task.json --each rows --on-error x",
+                             "run task.json --each csv",
+                             "describe nothing",
+                             "examples nothing",
+                             "validate",
+                             "validate --list x",
+                             "validate x --level 9",
+                             "--lang fr catalog",
+                             "examples --check"})
+        QTest::newRow(line) << QString(line);
+}
+
+/// Every line that oprun prints has Chinese words in it.
+void LanguageTest::nothingStaysEnglish()
+{
+    QFETCH(QString, line);
+    QVERIFY(m_folder->write("rows", "{\"line\": 5}\n{\"x\": 1}\n{\n{}\n"));
+    QVERIFY(m_folder->write("csv", "a,b\n1,2\n"));
+    const auto outcome = run(line.split(' ', Qt::SkipEmptyParts), chinese);
+    const QStringList lines = outcome.err.split('\n', Qt::SkipEmptyParts);
+    if (line != "examples --check")
+        QVERIFY(!lines.isEmpty());
+    for (const QString &message : lines)
+        QVERIFY2(hasChinese(message), qPrintable(message));
+    QVERIFY2(!outcome.err.contains("expected"), qPrintable(outcome.err));
+    if (outcome.err.isEmpty())
+        QVERIFY2(hasChinese(outcome.out), qPrintable(outcome.out));
+}
+
+void LanguageTest::findingsForPrograms()
+{
+    QVERIFY(m_folder->write("finding.json", R"({"steps": [{"type": "text.reverse"}]})"));
+    const QStringList check{"check", "finding.json", "--json"};
+    const auto plain = run(check);
+    QVERIFY(plain.out.contains("no result variable is named"));
+    QCOMPARE(run(check, chinese).bytes, plain.bytes);
+    QCOMPARE(run(check + QStringList{"--lang", "en"}, chinese).bytes, plain.bytes);
+    const auto asked = run(check + QStringList{"--lang", "zh"});
+    QVERIFY(asked.out.contains("未指定结果变量"));
+    QVERIFY(asked.out.contains("\"severity\": \"error\""));
+}
+
+void LanguageTest::errorsForPrograms()
+{
+    QVERIFY(m_folder->write("rows", "{\"line\": 5}\n"));
+    const QStringList each{"run", "task.json", "--each", "rows", "--errors", "errors"};
+    run(each);
+    const QByteArray plain = m_folder->read("errors");
+    QVERIFY(plain.contains("expected"));
+    run(each, chinese);
+    QCOMPARE(m_folder->read("errors"), plain);
+    run(each + QStringList{"--lang", "zh"});
+    QVERIFY(hasChinese(QString::fromUtf8(m_folder->read("errors"))));
+}
+
+void LanguageTest::messagesAreTranslated_data()
+{
+    QTest::addColumn<TranslatedText>("message");
+    const QList<TranslatedText> messages = readTranslations(MESSAGES_SOURCE);
+    QVERIFY(messages.size() >= 80);
+    int number = 0;
+    for (const TranslatedText &message : messages) {
+        // The words of task files stay.
+        QTest::addRow("%d: %s", ++number, qPrintable(message.source)) << message;
+    }
+}
+
+void LanguageTest::messagesAreTranslated()
+{
+    QFETCH(TranslatedText, message);
+    QCOMPARE(faultOf(message), QString());
+    QString words = message.source;
+    words.remove(QRegularExpression("%\\d+|\\{\\w+\\}|\"[^\"]*\""));
+    const bool isWordOfTasks = message.context == "Engine" && !message.source.contains(' ');
+    if (hasLetters(words) && !isWordOfTasks)
+        QVERIFY2(hasChinese(message.forms.value(0)), qPrintable(message.forms.value(0)));
 }
 
 void LanguageTest::tasksAreTheSameInEveryLanguage()

@@ -53,7 +53,7 @@ std::optional<Problem> readNumber(const QCommandLineParser &options,
 std::optional<Problem> readNumbers(const QCommandLineParser &options, RowRun &run)
 {
     // Line numbers are written to JSON, so they have to be exact as floating-point numbers.
-    constexpr qint64 mostLines = 1'000'000'000'000'000;
+    constexpr qint64 mostLines = 1000000000000000; // 10^15
     if (auto problem = readNumber(options, RunOptions::jobs(), 1, mostJobs, run.jobs))
         return problem;
     if (auto problem = readNumber(options, RunOptions::skip(), qint64(0), mostLines, run.skipped))

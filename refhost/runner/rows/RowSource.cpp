@@ -15,7 +15,7 @@
 namespace {
 
 /// How much is read at once; also about the size of a batch.
-using Block = std::array<char, 65'536>;
+using Block = std::array<char, 65536>;
 
 #ifdef Q_OS_UNIX
 
