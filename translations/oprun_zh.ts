@@ -413,5 +413,189 @@
         <source>%1; expected a whole number from %2 to %3</source>
         <translation>%1；应为：%2 到 %3 之间的整数</translation>
     </message>
+    <message>
+        <source>threw %1</source>
+        <translation>抛出了 %1</translation>
+    </message>
+    <message>
+        <source>example &quot;%1&quot;</source>
+        <translation>示例“%1”</translation>
+    </message>
+    <message>
+        <source>loading %1</source>
+        <translation>加载 %1</translation>
+    </message>
+    <message>
+        <source>not there, or no program; expected the one that runs the checks</source>
+        <translation>不存在，或不是程序；应为运行检查的程序</translation>
+    </message>
+    <message>
+        <source>does not list the checks it knows</source>
+        <translation>没有列出它能做的检查</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>第 %1 行</translation>
+    </message>
+    <message>
+        <source>a row of more than %1 bytes</source>
+        <translation>该行超过 %1 字节</translation>
+    </message>
+    <message>
+        <source>line %1, column %2</source>
+        <translation>第 %1 行第 %2 列</translation>
+    </message>
+    <message>
+        <source>the rows do not fit into memory</source>
+        <translation>内存不足，无法容纳数据行</translation>
+    </message>
+    <message>
+        <source>nobody reads the output any more</source>
+        <translation>输出已无人读取</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>已停止</translation>
+    </message>
+    <message>
+        <source>stopped at the first that failed</source>
+        <translation>在第一个失败处停止</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>中断</translation>
+    </message>
+    <message>
+        <source>; %1</source>
+        <translation>；%1</translation>
+    </message>
+    <message>
+        <source>; %1 is not written</source>
+        <translation>；没有写入 %1</translation>
+    </message>
+    <message>
+        <source>cannot be read (%1)</source>
+        <translation>无法读取（%1）</translation>
+    </message>
+    <message>
+        <source>%1 rows: %2 done, %3 failed; %4 warnings</source>
+        <translation>共 %1 行：完成 %2 行，失败 %3 行；%4 个警告</translation>
+    </message>
+    <message>
+        <source>; %1 failed steps</source>
+        <translation>；%1 个步骤失败</translation>
+    </message>
+    <message>
+        <source>%1: interrupted before steps[%2]</source>
+        <translation>%1: 在 steps[%2] 之前中断</translation>
+    </message>
+    <message>
+        <source>%1; expected NAME=TEXT</source>
+        <translation>%1；应为：NAME=TEXT</translation>
+    </message>
+    <message>
+        <source>cannot go with rows; leave out &quot;--each&quot;</source>
+        <translation>不能与数据行同时使用；请去掉 &quot;--each&quot;</translation>
+    </message>
+    <message>
+        <source>is about rows; expected &quot;--each FILE&quot;, too</source>
+        <translation>只用于数据行；还应有 &quot;--each FILE&quot;</translation>
+    </message>
+    <message>
+        <source>this system has no time limit for runs</source>
+        <translation>此系统不支持运行的时间限制</translation>
+    </message>
+    <message>
+        <source>%1; expected a number of seconds greater than 0, such as 2.5</source>
+        <translation>%1；应为大于 0 的秒数，例如 2.5</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1，来自 %2</translation>
+    </message>
+    <message>
+        <source>%1: steps[%2] (%3): the step failed: it threw %4</source>
+        <translation>%1: steps[%2] (%3): 步骤失败：抛出了 %4</translation>
+    </message>
+    <message>
+        <source>failed: it threw %1</source>
+        <translation>失败：抛出了 %1</translation>
+    </message>
+    <message>
+        <source>: line %1</source>
+        <translation>: 第 %1 行</translation>
+    </message>
+    <message>
+        <source>: steps[%1]</source>
+        <translation>: steps[%1]</translation>
+    </message>
+    <message>
+        <source> (%1)</source>
+        <translation> (%1)</translation>
+    </message>
+    <message>
+        <source>ended by %1</source>
+        <translation>因 %1 终止</translation>
+    </message>
+    <message>
+        <source>ended by exit with status %1</source>
+        <translation>因调用 exit 以状态 %1 结束</translation>
+    </message>
+    <message>
+        <source>ended by force</source>
+        <translation>被强制终止</translation>
+    </message>
+    <message>
+        <source>, %1 s after the interruption</source>
+        <translation>，此时已在中断之后 %1 秒</translation>
+    </message>
+    <message>
+        <source>, since the row took more than %1 s</source>
+        <translation>，因为该行用时超过 %1 秒</translation>
+    </message>
+    <message>
+        <source>, since the run took more than %1 s</source>
+        <translation>，因为运行用时超过 %1 秒</translation>
+    </message>
+    <message>
+        <source> while it wrote its output</source>
+        <translation> 在写入输出时</translation>
+    </message>
+    <message>
+        <source> during this step</source>
+        <translation> 在执行此步骤时</translation>
+    </message>
+    <message>
+        <source> during one of these steps</source>
+        <translation> 在执行其中一个步骤时</translation>
+    </message>
+    <message>
+        <source> after its work was done</source>
+        <translation> 在工作完成之后</translation>
+    </message>
+    <message>
+        <source> while %1</source>
+        <translation> 在%1时</translation>
+    </message>
+    <message>
+        <source>oprun was %1%2%3</source>
+        <translation>oprun%2 已%1%3</translation>
+    </message>
+    <message>
+        <source>timed out</source>
+        <translation>超时</translation>
+    </message>
+    <message>
+        <source>crashed</source>
+        <translation>已崩溃</translation>
+    </message>
+    <message>
+        <source>; the last %1 of them are not printed</source>
+        <translation>；最后 %1 行没有输出</translation>
+    </message>
+    <message>
+        <source>signal %1</source>
+        <translation>信号 %1</translation>
+    </message>
 </context>
 </TS>

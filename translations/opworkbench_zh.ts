@@ -1066,5 +1066,29 @@
         <source>%1… (%2 characters) …%3</source>
         <translation>%1……（共 %2 个字符）……%3</translation>
     </message>
+    <message>
+        <source>the type is that of the page; expected properties</source>
+        <translation>类型由页面决定；应为属性</translation>
+    </message>
+    <message>
+        <source>the result is declared by &quot;into&quot;; expected other names</source>
+        <translation>结果变量由 &quot;into&quot; 声明；应为其他名称</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>第 %1 行</translation>
+    </message>
+    <message>
+        <source>the row does not fit into memory</source>
+        <translation>内存不足，无法容纳该行</translation>
+    </message>
+    <message>
+        <source>bytes that are no text; expected UTF-8</source>
+        <translation>这些字节不是文本；应为：UTF-8</translation>
+    </message>
+    <message>
+        <source>the value of %1 has a line break; expected one line, or &quot;--json&quot; to print it as JSON</source>
+        <translation>%1 的值含有换行；应为一行，或用 &quot;--json&quot; 以 JSON 输出</translation>
+    </message>
 </context>
 </TS>

@@ -1,5 +1,6 @@
 #include "refhost/engine/ExampleBook.h"
 
+#include "refhost/engine/EngineText.h"
 #include "refhost/engine/JsonFile.h"
 #include "refhost/engine/JsonValue.h"
 #include "refhost/engine/NameIndex.h"
@@ -26,17 +27,17 @@ using Members = QMap<QString, Kind>;
 
 Kind stringKind()
 {
-    return {QStringLiteral("a string"), &JsonValue::isString};
+    return {EngineText::tr("a string"), &JsonValue::isString};
 }
 
 Kind arrayKind()
 {
-    return {QStringLiteral("an array"), &JsonValue::isArray};
+    return {EngineText::tr("an array"), &JsonValue::isArray};
 }
 
 Kind objectKind()
 {
-    return {QStringLiteral("an object"), &JsonValue::isObject};
+    return {EngineText::tr("an object"), &JsonValue::isObject};
 }
 
 Members pageMembers()
@@ -69,7 +70,7 @@ std::optional<Problem> findFault(const JsonObject &json, const Members &members,
         if (!members.contains(member.key)) {
             const QStringList known = members.keys();
             const QString message =
-                QStringLiteral("unknown key; expected %1").arg(known.join(QLatin1String(", ")));
+                EngineText::tr("unknown key; expected %1").arg(known.join(QLatin1String(", ")));
             return Problem{Reason::UnknownKey,
                            {},
                            memberPlace,
@@ -89,13 +90,13 @@ std::optional<Problem> findReserved(const WorkedExample &example, const QString 
         return Problem{Reason::UnknownKey,
                        {},
                        place + QStringLiteral(".settings.type"),
-                       QStringLiteral("the type is that of the page; expected properties")};
+                       EngineText::tr("the type is that of the page; expected properties")};
     }
     if (example.variables.contains(QStringLiteral("result"))) {
         return Problem{Reason::UnknownKey,
                        {},
                        place + QStringLiteral(".variables.result"),
-                       QStringLiteral("the result is declared by \"into\"; expected other names")};
+                       EngineText::tr("the result is declared by \"into\"; expected other names")};
     }
     return std::nullopt;
 }
@@ -148,7 +149,7 @@ std::optional<Problem> ExampleBook::add(const JsonObject &json, const OperationC
     for (const JsonMember &member : json) {
         if (!catalog.find(member.key)) {
             const QStringList known = catalog.typeIds();
-            const QString message = QStringLiteral("no such operation; expected %1")
+            const QString message = EngineText::tr("no such operation; expected %1")
                                         .arg(known.join(QLatin1String(", ")));
             return Problem{Reason::UnknownType,
                            {},

@@ -20,7 +20,7 @@ namespace {
 
 QString lineName(qint64 line)
 {
-    return QStringLiteral("line %1").arg(line);
+    return EngineText::tr("line %1").arg(line);
 }
 
 Problem unfitRow(qint64 line, const QString &message)
@@ -119,7 +119,7 @@ RowOutcome RowRunner::run(const QByteArray &row, qint64 line)
         else
             outcome.problem = written.problem();
     } catch (const std::bad_alloc &) {
-        outcome.problem = unfitRow(line, QStringLiteral("the row does not fit into memory"));
+        outcome.problem = unfitRow(line, EngineText::tr("the row does not fit into memory"));
     }
     return outcome;
 }
@@ -174,7 +174,7 @@ std::optional<Problem> RowRunner::takeText(const QByteArray &row, qint64 line)
 {
     const std::optional<QString> text = textFromUtf8(row);
     if (!text)
-        return unfitRow(line, QStringLiteral("bytes that are no text; expected UTF-8"));
+        return unfitRow(line, EngineText::tr("bytes that are no text; expected UTF-8"));
     const QString &name = m_format.lineVariable;
     const Result<QVariant> value = variantFromText(*text, m_scope.typeOf(name));
     if (!value) {
@@ -228,7 +228,7 @@ Result<QByteArray> RowRunner::plainOutput(qint64 line) const
     const JsonValue value = variantToJson(m_scope.get(name));
     const QByteArray text = (value.isString() ? value.toString() : jsonText(value)).toUtf8();
     if (text.contains('\n')) {
-        return unfitRow(line, QStringLiteral("the value of %1 has a line break; expected one line, "
+        return unfitRow(line, EngineText::tr("the value of %1 has a line break; expected one line, "
                                              "or \"--json\" to print it as JSON")
                                   .arg(jsonText(name)));
     }

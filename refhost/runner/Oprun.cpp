@@ -209,7 +209,7 @@ int perform(const Command &command, const QCommandLineParser &parser, const QStr
         status = command.run(parser, arguments, console);
     } catch (const std::bad_alloc &) {
         // Steps go on without what does not fit; showing what does can still be too much.
-        console.complain(QStringLiteral("what this takes does not fit into memory"));
+        console.complain(RunnerText::tr("what this takes does not fit into memory"));
     }
     return console.flush() ? status : BadInput;
 }

@@ -1,6 +1,7 @@
 #include "refhost/runner/Probe.h"
 
 #include "refhost/engine/FileBytes.h"
+#include "refhost/runner/RunnerText.h"
 #include "refhost/runner/ValidateOptions.h"
 #include "refhost/runner/supervision/ProcessEnd.h"
 
@@ -114,7 +115,7 @@ Result<Probe> Probe::find()
     probe.m_program = QStandardPaths::findExecutable(programName, {folder, installed});
     const QString expected = folder + QLatin1Char('/') + programName;
     if (probe.m_program.isEmpty()) {
-        return unusable(expected, QStringLiteral("not there, or no program; expected the one that "
+        return unusable(expected, RunnerText::tr("not there, or no program; expected the one that "
                                                  "runs the checks"));
     }
     QProcess process;
@@ -122,7 +123,7 @@ Result<Probe> Probe::find()
     process.waitForFinished();
     const auto json = QJsonDocument::fromJson(process.readAllStandardOutput());
     if (!json.isObject())
-        return unusable(expected, QStringLiteral("does not list the checks it knows"));
+        return unusable(expected, RunnerText::tr("does not list the checks it knows"));
     const QJsonArray list = json.object().value(QStringLiteral("checks")).toArray();
     for (const QJsonValue &check : list)
         probe.m_checks.append(CheckInfo::fromJson(check.toObject()));

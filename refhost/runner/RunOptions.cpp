@@ -24,7 +24,7 @@ std::optional<Problem> applySetting(Task &task, const QString &setting)
         return Problem{Problem::Reason::UnfitValue,
                        {},
                        place,
-                       QStringLiteral("%1; expected NAME=TEXT").arg(jsonText(setting))};
+                       RunnerText::tr("%1; expected NAME=TEXT").arg(jsonText(setting))};
     }
     const QString name = setting.left(equals);
     if (auto problem = RunOptions::findMissingVariable(place, name, task))
@@ -70,8 +70,8 @@ std::optional<Problem> findMisplacedOption(const QCommandLineParser &options)
             return Problem{Problem::Reason::UnfitValue,
                            {},
                            optionRole(option),
-                           rows ? QStringLiteral("cannot go with rows; leave out \"--each\"")
-                                : QStringLiteral("is about rows; expected \"--each FILE\", too")};
+                           rows ? RunnerText::tr("cannot go with rows; leave out \"--each\"")
+                                : RunnerText::tr("is about rows; expected \"--each FILE\", too")};
         }
     }
     return std::nullopt;

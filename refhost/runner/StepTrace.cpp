@@ -106,7 +106,7 @@ void StepTrace::show(const StepReport &report, const VariableScope &scope,
         explainer.explain(report.step->typeId(), line, indent);
     }
     if (report.failure)
-        console.note(indent + QStringLiteral("failed: it threw ") + oneLine(*report.failure));
+        console.note(indent + RunnerText::tr("failed: it threw %1").arg(oneLine(*report.failure)));
     const double microseconds = static_cast<double>(report.nanoseconds) / 1000;
     console.note(indent + RunnerText::tr("took %1 µs").arg(microseconds, 0, 'f', 1));
 }

@@ -335,7 +335,6 @@ void LanguageTest::messagesAreTranslated_data()
     QVERIFY(messages.size() >= 80);
     int number = 0;
     for (const TranslatedText &message : messages) {
-        // The words of task files stay.
         QTest::addRow("%d: %s", ++number, qPrintable(message.source)) << message;
     }
 }
@@ -345,7 +344,8 @@ void LanguageTest::messagesAreTranslated()
     QFETCH(TranslatedText, message);
     QCOMPARE(faultOf(message), QString());
     QString words = message.source;
-    words.remove(QRegularExpression("%\\d+|\\{\\w+\\}|\"[^\"]*\""));
+    words.remove(QRegularExpression("%\\d+|\\{\\w+\\}|\"[^\"]*\"|steps\\["));
+    // The words of task files stay.
     const bool isWordOfTasks = message.context == "Engine" && !message.source.contains(' ');
     if (hasLetters(words) && !isWordOfTasks)
         QVERIFY2(hasChinese(message.forms.value(0)), qPrintable(message.forms.value(0)));

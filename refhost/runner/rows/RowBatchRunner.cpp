@@ -16,8 +16,8 @@ Problem tooLong(qint64 line)
 {
     return {Problem::Reason::UnfitValue,
             {},
-            QStringLiteral("line %1").arg(line),
-            QStringLiteral("a row of more than %1 bytes").arg(RowSource::longestRow)};
+            RunnerText::tr("line %1").arg(line),
+            RunnerText::tr("a row of more than %1 bytes").arg(RowSource::longestRow)};
 }
 
 /// Returns the line that stands for a row that failed. A plain line could not be told from a value,
@@ -39,7 +39,7 @@ Problem nulCharacter(const QByteArray &row, qint64 line)
     const int column = QString::fromUtf8(row.constData(), row.indexOf('\0')).size() + 1;
     return {Problem::Reason::UnfitValue,
             {},
-            QStringLiteral("line %1, column %2").arg(line).arg(column),
+            RunnerText::tr("line %1, column %2").arg(line).arg(column),
             RunnerText::tr("a NUL character; expected UTF-8 (text in UTF-16 has to be converted)")};
 }
 

@@ -43,7 +43,7 @@ std::optional<Problem> readNumber(const QCommandLineParser &options,
     const qint64 value = text.toLongLong(&isNumber);
     if (!isNumber || value < least || value > most) {
         return unfitOption(QStringLiteral("--") + option.names().first(),
-                           QStringLiteral("%1; expected a whole number from %2 to %3")
+                           RunnerText::tr("%1; expected a whole number from %2 to %3")
                                .arg(jsonText(text), QString::number(least), QString::number(most)));
     }
     number = static_cast<Number>(value);
@@ -190,7 +190,7 @@ std::optional<Problem> runAll(const Task &task, const RowRun &run, Interruption 
         return Problem{Problem::Reason::UnfitValue,
                        source.name(),
                        {},
-                       QStringLiteral("the rows do not fit into memory")};
+                       RunnerText::tr("the rows do not fit into memory")};
     }
     return firstOf(source.problem(), sink.problem());
 }
@@ -208,17 +208,17 @@ RowEnd endOf(const RowRun &run, const RowSink &sink, const std::optional<Problem
              bool readerIsGone, bool interrupted)
 {
     if (readerIsGone)
-        return {ReaderGone, QStringLiteral("nobody reads the output any more"), false, {}};
+        return {ReaderGone, RunnerText::tr("nobody reads the output any more"), false, {}};
     if (problem)
-        return {BadInput, QStringLiteral("stopped"), false, problem};
+        return {BadInput, RunnerText::tr("stopped"), false, problem};
     const bool hasFailedSteps = sink.tally().failedSteps > 0;
     if (run.stopsAtFailure && sink.tally().failed > 0)
         return {hasFailedSteps ? StepFailed : RowFailed,
-                QStringLiteral("stopped at the first that failed"),
+                RunnerText::tr("stopped at the first that failed"),
                 true,
                 {}};
     if (interrupted)
-        return {Interrupted, QStringLiteral("interrupted"), false, {}};
+        return {Interrupted, RunnerText::tr("interrupted"), false, {}};
     if (hasFailedSteps)
         return {StepFailed, {}, true, {}};
     if (sink.tally().failed > 0)
@@ -233,9 +233,9 @@ QString summary(const RowTally &tally, qint64 skipped, const RowEnd &end, const 
         text += RunnerText::tr("; %1 skipped").arg(skipped);
     const bool outIsMissing = !end.reason.isEmpty() || end.problem;
     if (!end.reason.isEmpty())
-        text += QStringLiteral("; ") + end.reason;
+        text += RunnerText::tr("; %1").arg(end.reason);
     if (outIsMissing && run.out != QLatin1String("-"))
-        text += QStringLiteral("; %1 is not written").arg(run.out);
+        text += RunnerText::tr("; %1 is not written").arg(run.out);
     return text;
 }
 

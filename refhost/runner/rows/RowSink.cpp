@@ -101,7 +101,7 @@ void RowSink::write(OutputFile &file, const QByteArray &bytes)
 QString RowSink::warningLine(const RowNote &note) const
 {
     const StepWarning &warning = note.warning;
-    const QString place = QStringLiteral("line %1").arg(note.line);
+    const QString place = RunnerText::tr("line %1").arg(note.line);
     const QString line = lineExcerpt(warning.line);
     if (warning.isFailure)
         return failureMessage(place, warning.step, warning.typeId, m_plugins.value(warning.step),

@@ -1,5 +1,6 @@
 #include "refhost/runner/rows/RowSource.h"
 
+#include "refhost/runner/RunnerText.h"
 #include "refhost/runner/rows/Interruption.h"
 
 #include <algorithm>
@@ -92,7 +93,7 @@ RowSource::RowSource(const QString &name, qint64 firstLine, int limit)
 
 QString RowSource::name() const
 {
-    return m_name == QLatin1String("-") ? QStringLiteral("standard input") : m_name;
+    return m_name == QLatin1String("-") ? RunnerText::tr("standard input") : m_name;
 }
 
 std::optional<Problem> RowSource::open()
@@ -114,7 +115,7 @@ Problem RowSource::unreadable(const QString &reason) const
     return {Problem::Reason::UnreadableFile,
             name(),
             {},
-            QStringLiteral("cannot be read (%1)").arg(reason)};
+            RunnerText::tr("cannot be read (%1)").arg(reason)};
 }
 
 std::optional<QByteArray> RowSource::head(bool hasBlankRows, const Interruption &interruption)

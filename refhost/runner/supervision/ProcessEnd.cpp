@@ -173,7 +173,7 @@ QString tallyMessage(const ProcessEnd &end, const RunProgress &run)
 
 QString signalText(int number)
 {
-    QString text = QStringLiteral("signal %1").arg(number);
+    QString text = RunnerText::tr("signal %1").arg(number);
     const auto *const found =
         std::find_if(std::begin(signalNames), std::end(signalNames),
                      [&](const SignalName &signal) { return signal.number == number; });
