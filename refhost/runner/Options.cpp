@@ -19,10 +19,11 @@ QCommandLineOption Options::json()
 
 QCommandLineOption Options::language()
 {
-    return {QStringLiteral("lang"),
-            QStringLiteral("Show texts of plug-ins in this language, not in that of the locale; "
-                           "\"zh\" for those of their sources."),
-            QStringLiteral("LANG")};
+    return {
+        QStringLiteral("lang"),
+        QStringLiteral("Show messages and texts of plug-ins in this language, not in that of the "
+                       "locale; \"zh\" for texts as in the sources of plug-ins."),
+        QStringLiteral("LANG")};
 }
 
 QCommandLineOption Options::plugin()

@@ -247,10 +247,11 @@ void LanguageTest::messages()
                                : "oprun: problem.json: steps: 5; expected an array of steps\n"));
     const auto misused = run(QStringList{"check"} + options, environment);
     QCOMPARE(misused.err,
-             QString(isChinese ? "oprun: check: 没有参数；应为：TASK。请运行 \"oprun check --help\" "
-                                 "查看用法。\n"
-                               : "oprun: check: no argument; expected TASK. Try \"oprun check "
-                                 "--help\".\n"));
+             QString(isChinese
+                         ? "oprun: check: 没有参数；应为：TASK。请运行 \"oprun check --help\" "
+                           "查看用法。\n"
+                         : "oprun: check: no argument; expected TASK. Try \"oprun check "
+                           "--help\".\n"));
 }
 
 void LanguageTest::nothingStaysEnglish_data()
@@ -396,6 +397,8 @@ void LanguageTest::languagesAreCompleted()
                                            "echo -n \"${COMPREPLY[*]}\"\n"));
     const auto outcome = m_folder->runShell("OPRUN=$OPRUN bash complete.sh");
     QCOMPARE(outcome.out + outcome.err, QString("en zh"));
+    const auto inChinese = m_folder->runShell("LC_ALL=zh_CN.UTF-8 OPRUN=$OPRUN bash complete.sh");
+    QCOMPARE(inChinese.out, QString("en zh"));
 }
 
 QTEST_GUILESS_MAIN(LanguageTest)
