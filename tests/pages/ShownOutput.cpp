@@ -88,6 +88,6 @@ QString differenceToShown(const QStringList &shown, const QString &printed)
 bool showTrouble(const QStringList &shown)
 {
     static const QRegularExpression trouble(
-        "^(oprun|opworkbench): |^[0-9]+ findings?: |^(failed|crashed|timed out) ");
+        "^(oprun|opworkbench): |^[0-9]+ findings?: |^发现 [0-9]+ 个问题|^(failed|crashed|timed out) ");
     return !shown.filter(trouble).isEmpty();
 }
