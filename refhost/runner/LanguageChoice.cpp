@@ -81,7 +81,8 @@ void installMessages(const QStringList &languages)
 
 QStringList messageLanguages(const QCommandLineParser &options)
 {
-    return options.values(Options::language()) + localeLanguages();
+    const QStringList named = options.values(Options::language());
+    return named.size() == 1 ? named + localeLanguages() : localeLanguages();
 }
 
 Result<QStringList> chosenLanguages(const QCommandLineParser &options, const QStringList &plugins)

@@ -25,7 +25,8 @@ Result<QStringList> languagesNamed(const QCommandLineParser &options, const QStr
 void installMessages(const QStringList &languages);
 
 /// Returns the languages of messages, in order of preference: the one named with "--lang", whether
-/// or not there is such a language, then those of the locale.
+/// or not there is such a language, then those of the locale. Of several that are named none
+/// counts.
 QStringList messageLanguages(const QCommandLineParser &options);
 
 /// The translations of the plug-ins; a message for each that cannot be used.
