@@ -597,5 +597,13 @@
         <source>signal %1</source>
         <translation>信号 %1</translation>
     </message>
+    <message>
+        <source>%1; expected refuse, ignore or keep</source>
+        <translation>%1；应为 refuse、ignore 或 keep</translation>
+    </message>
+    <message>
+        <source>is about rows of JSON; leave out &quot;--lines&quot;</source>
+        <translation>只用于 JSON 数据行；请去掉 &quot;--lines&quot;</translation>
+    </message>
 </context>
 </TS>
