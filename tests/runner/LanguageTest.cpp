@@ -318,7 +318,7 @@ void LanguageTest::findingsForPrograms()
 
 void LanguageTest::errorsForPrograms()
 {
-    QVERIFY(m_folder->write("rows", "{\"line\": 5}\n"));
+    QVERIFY(m_folder->write("rows", "{\"line\": [5]}\n"));
     const QStringList each{"run", "task.json", "--each", "rows", "--errors", "errors"};
     run(each);
     const QByteArray plain = m_folder->read("errors");
