@@ -256,10 +256,11 @@ int runOprun(const QStringList &arguments)
     const QStringList given = parser.positionalArguments();
     if (const Command *const command = findCommand(commands, given.value(0)))
         return runCommand(*command, arguments);
-    const Command *const meant = firstCommand(commands, given);
+    const bool hasUnknown = !parser.unknownOptionNames().isEmpty();
+    const Command *const meant = hasUnknown ? firstCommand(commands, given) : nullptr;
     const QList<QCommandLineOption> known = meant ? optionsOf(*meant) : Options::common();
     const QString misuse = optionMisuse(parser, known, arguments);
-    if (!parser.unknownOptionNames().isEmpty()) {
+    if (hasUnknown) {
         return usageError(console, RunnerText::tr("%1; options of a command follow it").arg(misuse),
                           meant);
     }
