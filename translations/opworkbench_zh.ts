@@ -1090,5 +1090,9 @@
         <source>the value of %1 has a line break; expected one line, or &quot;--json&quot; to print it as JSON</source>
         <translation>%1 的值含有换行；应为一行，或用 &quot;--json&quot; 以 JSON 输出</translation>
     </message>
+    <message>
+        <source>the name of the working folder is not UTF-8</source>
+        <translation>工作文件夹的名称不是 UTF-8</translation>
+    </message>
 </context>
 </TS>

@@ -3,6 +3,7 @@
 #include "refhost/engine/EngineText.h"
 #include "refhost/engine/HostRefusal.h"
 #include "refhost/engine/LibraryFile.h"
+#include "refhost/engine/ProgramArguments.h"
 
 #include "IOperationPlugin.h"
 #include "Operation.h"
@@ -59,6 +60,9 @@ Result<LoadedPlugin> LoadedPlugin::load(const QString &path, const QString &orig
         return notLoaded(name, unfit);
     // Qt would look for a relative path in its own plug-in folders, not here.
     const QString file = QFileInfo(path).absoluteFilePath();
+    const QString unfitFolder = unfitFolderReason(path);
+    if (!unfitFolder.isEmpty())
+        return notLoaded(name, unfitFolder);
     QPluginLoader loader(file);
     QObject *const root = loader.instance();
     if (!root)

@@ -1,6 +1,7 @@
 #include "refhost/engine/OutputFile.h"
 
 #include "refhost/engine/EngineText.h"
+#include "refhost/engine/ProgramArguments.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -106,6 +107,9 @@ std::optional<Problem> OutputFile::open()
         return emptyFileName(Problem::Reason::UnwritableFile);
     if (leadsOutsideUtf8(m_name))
         return unwritable(EngineText::tr("it is a link to a name that is not UTF-8"));
+    const QString unfitFolder = unfitFolderReason(m_name);
+    if (!unfitFolder.isEmpty())
+        return unwritable(unfitFolder);
     const QFileInfo there(m_name);
     // A device or a pipe is written to, not replaced.
     if (there.exists() && !there.isFile() && !there.isDir())

@@ -5,8 +5,14 @@
 
 #include <QByteArray>
 #include <QCoreApplication>
+#include <QDir>
 
 #include <algorithm>
+#include <array>
+
+#ifdef Q_OS_UNIX
+#    include <unistd.h>
+#endif
 
 namespace {
 
@@ -94,4 +100,17 @@ QString argumentWithOption(const QString &name, const QStringList &arguments)
     const auto options = arguments.mid(1, arguments.indexOf(dashes));
     const auto found = std::find_if(options.cbegin(), options.cend(), hasOption);
     return found == options.cend() ? whole : found->section(QLatin1Char('='), 0, 0);
+}
+
+QString unfitFolderReason(const QString &path)
+{
+#ifdef Q_OS_UNIX
+    std::array<char, 4096> folder; // longer ones cannot be opened
+    const bool isKnown = getcwd(folder.data(), folder.size()) != nullptr;
+    if (QDir::isRelativePath(path) && isKnown && !isUtf8(folder.data()))
+        return EngineText::tr("the name of the working folder is not UTF-8");
+#else
+    Q_UNUSED(path)
+#endif
+    return {};
 }

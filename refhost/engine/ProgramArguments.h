@@ -14,3 +14,7 @@ Result<QStringList> programArguments(int argc, char *argv[]);
 /// found the unknown option `name`, without a value: "-json" when `name` is "j", since the parser
 /// takes what follows a single dash for letters with an option each.
 QString argumentWithOption(const QString &name, const QStringList &arguments);
+
+/// Returns why Qt has no absolute path for `path`: the path is relative, and the name of the working
+/// folder is not UTF-8. Empty when Qt has one.
+QString unfitFolderReason(const QString &path);

@@ -137,6 +137,11 @@ void CommandLineTest::namesThatAreNotUtf8_data()
     row("link to a link",
         "ln -s \"$(printf 'a\\377')\" m; ln -s m l; $OPRUN pack t.json l; s=$?; rm l m; (exit $s)",
         "l" + leads);
+    const QString inFolder = "mkdir \"$(printf 'd\\377')\"; cd \"$(printf 'd\\377')\"; "
+                             "%1; status=$?; cd ..; (exit $status)";
+    const QString folder = "the name of the working folder is not UTF-8";
+    row("file in such a folder", inFolder.arg("$OPRUN pack ../t.json new.task"),
+        "new.task: cannot be written (" + folder + ")");
     row("folder for temporary files",
         "mkdir \"$(printf 'd\\377')\"; TMPDIR=\"$PWD/$(printf 'd\\377')\" $OPRUN validate x.so",
         "validate: TMPDIR names no folder; expected one whose name is UTF-8. "
@@ -234,6 +239,7 @@ void CommandLineTest::suggestions_data()
     const QString tryRun = ". Try \"oprun run --help\".";
 
     row("rn", "no command \"rn\"; expected " + commands + meant("run") + ". Try \"oprun --help\".");
+    row("nosuch run", "no command \"nosuch\"; expected " + commands + ". Try \"oprun --help\".");
     row("Explain t.json", "no command \"Explain\"; expected " + commands + meant("explain") +
                               ". Try \"oprun --help\".");
     row("help validat", "no command \"validat\"; expected " + commands + meant("validate") +
@@ -323,6 +329,9 @@ void CommandLineTest::answers_data()
         "run: --plugin: an empty file name; expected a file. Try \"oprun run --help\".", 2);
     row("$OPRUN --version --plugin=", "",
         "--plugin: an empty file name; expected a file. Try \"oprun --help\".", 2);
+    row("mkdir \"$(printf 'd\\377')\"; cd \"$(printf 'd\\377')\"; cp " PLUGIN_FILE
+        " x.so; $OPRUN catalog --plugin x.so; status=$?; rm -r \"$PWD\"; exit $status",
+        "", notLoaded("x.so", "the name of the working folder is not UTF-8"), 3);
     row("$OPRUN validate ''", "", "an empty file name; expected a file", 3);
     row("$OPRUN validate .", "", ".: it is a folder; expected a file", 3);
     row("$OPRUN validate x.so", "", "x.so: there is no such file", 3);
