@@ -15,6 +15,6 @@ Result<QStringList> programArguments(int argc, char *argv[]);
 /// takes what follows a single dash for letters with an option each.
 QString argumentWithOption(const QString &name, const QStringList &arguments);
 
-/// Returns why Qt has no absolute path for `path`: the path is relative, and the name of the working
-/// folder is not UTF-8. Empty when Qt has one.
+/// Returns why Qt has no absolute path for `path`: the path is relative, and the name of the
+/// working folder is not UTF-8. Empty when Qt has one.
 QString unfitFolderReason(const QString &path);
