@@ -17,6 +17,10 @@ const char *const drawnWorkbench =
     "esac\n"
     "exec \"" OPWORKBENCH_FILE "\" \"$@\"\n";
 
+/// oprun as a reader of a Chinese page has it. The shell keeps its locale, which need not be there.
+const char *const chineseOprun = "#!/usr/bin/env bash\n"
+                                 "exec env LC_ALL=zh_CN.UTF-8 \"" OPRUN_FILE "\" \"$@\"\n";
+
 const QFile::Permissions ownerOnly = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
 
 } // namespace
@@ -40,6 +44,8 @@ void PageFolder::fill(const QString &page)
     if (QFileInfo::exists(own))
         copy(own, ".");
     linkPrograms();
+    if (page.endsWith(".zh.md"))
+        writeProgram("oprun", chineseOprun);
 }
 
 void PageFolder::linkPrograms()
@@ -51,9 +57,16 @@ void PageFolder::linkPrograms()
     link(PLUGIN_FILE, QFileInfo(PLUGIN_FILE).fileName());
     for (const char *const animal : {"libNullPrototype.so", "libCrashOnLoad.so"})
         link(ZOO_FOLDER "/" + QString(animal), animal);
-    const QString workbench = build + "bin/opworkbench";
-    write(workbench, drawnWorkbench);
-    QFile::setPermissions(path(workbench), ownerOnly);
+    writeProgram("opworkbench", drawnWorkbench);
+}
+
+/// Writes a script in place of a program.
+void PageFolder::writeProgram(const QString &name, const QString &script)
+{
+    const QString file = "build/release/bin/" + name;
+    QFile::remove(path(file));
+    write(file, script);
+    QFile::setPermissions(path(file), ownerOnly);
 }
 
 void PageFolder::copy(const QString &from, const QString &to)

@@ -33,6 +33,7 @@ private:
     void link(const QString &file, const QString &name);
     void fill(const QString &page);
     void linkPrograms();
+    void writeProgram(const QString &name, const QString &script);
 
     QTemporaryDir m_folder;
     QString m_problem;

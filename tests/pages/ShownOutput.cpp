@@ -13,9 +13,9 @@ bool isGap(const QString &line)
 /// Without what is another at each run or in each build.
 QString steady(QString line)
 {
-    static const QRegularExpression time("took [0-9.]+ (ns|µs|ms|s)");
+    static const QRegularExpression time("(took|用时) [0-9.]+ (ns|µs|ms|s)");
     static const QRegularExpression version("\\b[0-9]+\\.[0-9]+\\.[0-9]+\\b");
-    line.replace(time, "took TIME");
+    line.replace(time, "\\1 TIME");
     line.replace(version, "VERSION");
     return line;
 }
