@@ -28,6 +28,7 @@ private Q_SLOTS:
     void messages();
     void nothingStaysEnglish_data();
     void nothingStaysEnglish();
+    void wordsOfTasksStay();
     void findingsForPrograms();
     void errorsForPrograms();
     void messagesAreTranslated_data();
@@ -301,6 +302,20 @@ void LanguageTest::nothingStaysEnglish()
     QVERIFY2(!outcome.err.contains("expected"), qPrintable(outcome.err));
     if (outcome.err.isEmpty())
         QVERIFY2(hasChinese(outcome.out), qPrintable(outcome.out));
+}
+
+/// Steps, properties and types are called as in task files, not as in the window.
+void LanguageTest::wordsOfTasksStay()
+{
+    QVERIFY(m_folder->write("words.json", R"({"variables": {"r": {"type": "string"},
+        "n": {"type": "int"}}, "steps": [
+        {"type": "text.append", "sourceText": "$r", "resultVar": "n"},
+        {"type": "text.substring", "sourceText": "x", "charCount": 1, "resultVar": "r"}]})"));
+    const QString out = run({"check", "words.json", "--lang", "zh"}).out;
+    for (const char *words : {"steps[1]", "int", "string", "lengthMode", "到文本末尾"})
+        QVERIFY2(out.contains(words), qPrintable(QString(words) + " in " + out));
+    for (const char *words : {"第 2 步", "“", "整数", "字符串类型"})
+        QVERIFY2(!out.contains(words), qPrintable(QString(words) + " in " + out));
 }
 
 void LanguageTest::findingsForPrograms()
