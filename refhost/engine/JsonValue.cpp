@@ -100,7 +100,7 @@ JsonValue findWideInteger(const JsonArray &array)
     for (const JsonValue &json : array) {
         if (json.isWideInteger())
             return json;
-        const JsonValue inner = findWideInteger(json.toArray());
+        JsonValue inner = findWideInteger(json.toArray());
         if (!inner.isUndefined())
             return inner;
     }
