@@ -32,6 +32,30 @@ if(TEXTOPER_SANITIZERS)
     target_link_options(ProjectWarnings INTERFACE -fsanitize=${TEXTOPER_SANITIZERS})
 endif()
 
+# What is delivered is hardened as Debian's hardening=+all asks for, with protection against stack
+# clashes and of the control flow where the compiler and the processor have it. Sanitizers do this work
+# themselves. tests/structure/CheckHardening.cmake reads the result back from the files.
+include(CheckCXXCompilerFlag)
+include(CheckPIESupported)
+check_pie_supported(LANGUAGES CXX)
+if(UNIX AND NOT APPLE AND NOT TEXTOPER_SANITIZERS)
+    foreach(option -fstack-protector-strong -fstack-clash-protection -fcf-protection)
+        string(MAKE_C_IDENTIFIER "HAS${option}" known)
+        check_cxx_compiler_flag(${option} ${known})
+        if(${known})
+            target_compile_options(ProjectOptions INTERFACE ${option})
+        endif()
+    endforeach()
+    target_compile_options(ProjectOptions INTERFACE -Werror=format-security)
+    # Fortified functions need optimisation. A level that the environment has chosen stays.
+    if(NOT CMAKE_CXX_FLAGS MATCHES "_FORTIFY_SOURCE")
+        set(OPTIMISED $<OR:$<CONFIG:Release>,$<CONFIG:RelWithDebInfo>,$<CONFIG:MinSizeRel>>)
+        target_compile_options(ProjectOptions INTERFACE
+            $<${OPTIMISED}:-U_FORTIFY_SOURCE> $<${OPTIMISED}:-D_FORTIFY_SOURCE=2>)
+    endif()
+    target_link_options(ProjectOptions INTERFACE -Wl,-z,relro -Wl,-z,now)
+endif()
+
 # Has moc look through a target again when files that no CMakeLists.txt names are others than the
 # last time. Ninja knows of no reason to, and what is new would not link.
 function(look_again_for_new_files target)
