@@ -14,6 +14,7 @@ enum ExitStatus : int {
     StepFailed = 5,      ///< a step threw an exception
     StepCrashed = 6,     ///< a step, or a plug-in while it was loaded, ended the process
     TimedOut = 124,      ///< a row or a run took too long, as `timeout` would report it
+    EndedBySignal = 128, ///< plus the number of the signal, when `validate` was asked to end
     Interrupted = 130,   ///< asked to end by a signal, as a shell would report it
     ReaderGone = 141     ///< nobody reads the output any more, as a shell would report it
 };

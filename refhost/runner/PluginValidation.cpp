@@ -1,6 +1,7 @@
 #include "refhost/runner/PluginValidation.h"
 
 #include "refhost/runner/ValidateOptions.h"
+#include "refhost/runner/rows/Interruption.h"
 
 #include <algorithm>
 
@@ -8,7 +9,9 @@ namespace {
 
 bool isAskedFor(const CheckInfo &check, const ValidateOptions &options)
 {
-    return options.only.isEmpty() ? check.level <= options.level : options.only.contains(check.id);
+    if (!options.only.isEmpty())
+        return options.only.contains(check.id);
+    return check.option.isEmpty() ? check.level <= options.level : options.operands;
 }
 
 /// Whether a check that is asked for stands on what this one provides.
@@ -23,7 +26,7 @@ bool isNeeded(const CheckInfo &check, const QList<CheckInfo> &all, const Validat
 } // namespace
 
 QList<CheckReport> validatePlugin(const QString &file, const Probe &probe,
-                                  const ValidateOptions &options)
+                                  const ValidateOptions &options, const Interruption &interruption)
 {
     QList<CheckReport> reports;
     Ground ground = Ground::File;
@@ -38,7 +41,9 @@ QList<CheckReport> validatePlugin(const QString &file, const Probe &probe,
                 reports.append({check, Outcome(Verdict::Skipped, reason), 0});
             continue;
         }
-        const CheckReport report = probe.run(check, file, options);
+        const CheckReport report = probe.run(check, file, options, interruption);
+        if (interruption.requested())
+            break;
         const bool passed = report.outcome.verdict() == Verdict::Passed;
         if (passed)
             ground = std::max(ground, check.provides);

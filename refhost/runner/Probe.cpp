@@ -1,22 +1,24 @@
 #include "refhost/runner/Probe.h"
 
-#include "refhost/engine/FileBytes.h"
 #include "refhost/runner/RunnerText.h"
 #include "refhost/runner/ValidateOptions.h"
+#include "refhost/runner/rows/Interruption.h"
 #include "refhost/runner/supervision/ProcessEnd.h"
+#include "refhost/validator/ProbeMessage.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QEventLoop>
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QSocketNotifier>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 #include <QTimer>
+
+#include <csignal>
 
 namespace {
 
@@ -27,30 +29,50 @@ Problem unusable(const QString &path, const QString &message)
     return {Problem::Reason::UnreadableFile, path, {}, message};
 }
 
-/// The last line that came on standard error; the rest is thrown away as it comes, however much
-/// there is.
-class LastWords
+/// What a process of the probe says: its lines on standard output, the last line on standard error.
+/// Everything is read as it comes, however much it is.
+class ProbeTalk
 {
 public:
-    explicit LastWords(QProcess &process)
+    explicit ProbeTalk(QProcess &process)
     {
-        process.setStandardInputFile(QProcess::nullDevice());
-        process.setStandardOutputFile(QProcess::nullDevice());
+        QObject::connect(&process, &QProcess::readyReadStandardOutput, [&] { readLines(process); });
         QObject::connect(&process, &QProcess::readyReadStandardError, [&] {
-            m_tail = (m_tail + process.readAllStandardError()).right(longest);
+            m_errorTail = (m_errorTail + process.readAllStandardError()).right(longestTail);
         });
     }
 
-    QString text() const
+    /// The outcome, nothing when the probe has told none.
+    std::optional<Outcome> outcome() const { return outcomeIn(m_lastLine); }
+
+    /// What the probe did when it ended, empty when it has told nothing.
+    QString activity() const { return activityIn(m_lastLine).value_or(QString()); }
+
+    /// The last line on standard error.
+    QString lastErrorLine() const
     {
-        const QByteArray trimmed = m_tail.trimmed();
+        const QByteArray trimmed = m_errorTail.trimmed();
         return QString::fromUtf8(trimmed.mid(trimmed.lastIndexOf('\n') + 1));
     }
 
 private:
-    static constexpr int longest = 500;
+    static constexpr int longestTail = 500;
 
-    QByteArray m_tail;
+    /// Keeps the last complete line, and the beginning of the next one.
+    void readLines(QProcess &process)
+    {
+        m_unfinished += process.readAllStandardOutput();
+        const int end = m_unfinished.lastIndexOf('\n');
+        if (end < 0)
+            return;
+        const int begin = end > 0 ? m_unfinished.lastIndexOf('\n', end - 1) + 1 : 0;
+        m_lastLine = m_unfinished.mid(begin, end - begin);
+        m_unfinished.remove(0, end + 1);
+    }
+
+    QByteArray m_unfinished;
+    QByteArray m_lastLine;
+    QByteArray m_errorTail;
 };
 
 /// How the process ended that gave no outcome.
@@ -62,44 +84,71 @@ QString endingOf(const QProcess &process)
     return QStringLiteral("ended by ") + signalText(process.exitCode());
 }
 
-void addCircumstances(Outcome &outcome, const QString &progressFile, const LastWords &lastWords)
+void addCircumstances(Outcome &outcome, const ProbeTalk &talk)
 {
-    QFile progress(progressFile);
-    if (progress.open(QIODevice::ReadOnly) && progress.size() > 0)
-        outcome.remark(QStringLiteral("while: ") + QString::fromUtf8(progress.readAll()));
-    if (!lastWords.text().isEmpty())
-        outcome.remark(QStringLiteral("it said: ") + lastWords.text());
+    if (!talk.activity().isEmpty())
+        outcome.remark(QStringLiteral("while: ") + talk.activity());
+    if (!talk.lastErrorLine().isEmpty())
+        outcome.remark(QStringLiteral("it said: ") + talk.lastErrorLine());
 }
 
-/// Waits for the end of the process, taking what it says meanwhile. False when it does not come in
-/// time.
-bool endsInTime(QProcess &process, int timeoutSeconds)
+/// Kills the process and all that it has started.
+void killProbe(QProcess &process)
+{
+#ifdef Q_OS_UNIX
+    if (process.processId() > 0)
+        ::kill(-static_cast<pid_t>(process.processId()), SIGKILL);
+#endif
+    process.kill();
+}
+
+/// Ends the process when oprun is asked to end. The end of its input tells the probe to remove what
+/// it would keep and to end.
+void endOnRequest(QProcess &process, QEventLoop &loop, const Interruption &interruption)
+{
+    constexpr int patience = 1000; // milliseconds
+    if (interruption.wakeUpDescriptor() < 0)
+        return;
+    auto *const notifier =
+        new QSocketNotifier(interruption.wakeUpDescriptor(), QSocketNotifier::Read, &loop);
+    QObject::connect(notifier, &QSocketNotifier::activated, &loop, [&, notifier] {
+        notifier->setEnabled(false);
+        process.closeWriteChannel();
+        QTimer::singleShot(patience, &loop, [&] { killProbe(process); });
+    });
+}
+
+/// Waits for the end of the process, reading meanwhile what it writes. False when it does not end
+/// in time.
+bool endsInTime(QProcess &process, int timeoutSeconds, const Interruption &interruption)
 {
     constexpr int second = 1000;
     QEventLoop loop;
     QObject::connect(&process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), &loop,
                      &QEventLoop::quit);
     QTimer::singleShot(timeoutSeconds * second, &loop, &QEventLoop::quit);
+    endOnRequest(process, loop, interruption);
     if (process.state() != QProcess::NotRunning)
         loop.exec();
     return process.state() == QProcess::NotRunning;
 }
 
-/// Waits for the process and reads the outcome, or makes one of the way it ended.
-Outcome awaitOutcome(QProcess &process, const QString &resultFile, int timeoutSeconds)
+/// Waits for the process and returns its outcome, or makes one of the way it ended.
+Outcome awaitOutcome(QProcess &process, const ProbeTalk &talk, int timeoutSeconds,
+                     const Interruption &interruption)
 {
     if (!process.waitForStarted())
         return {Verdict::Crashed, QStringLiteral("not started: ") + process.errorString()};
-    const bool inTime = endsInTime(process, timeoutSeconds);
-    // What was found is found; afterwards the process only ends.
-    if (const auto json = readFileBytes(resultFile)) {
-        if (const auto outcome = Outcome::fromJson(QJsonDocument::fromJson(json.value()).object()))
-            return *outcome;
+    const bool inTime = endsInTime(process, timeoutSeconds, interruption);
+    if (!inTime) {
+        killProbe(process);
+        process.waitForFinished();
     }
+    // An outcome that was told counts, however the process ends afterwards.
+    if (const auto outcome = talk.outcome())
+        return *outcome;
     if (inTime)
         return {Verdict::Crashed, endingOf(process)};
-    process.kill();
-    process.waitForFinished();
     return {Verdict::TimedOut, QStringLiteral("ended after %1 s").arg(timeoutSeconds)};
 }
 
@@ -130,22 +179,19 @@ Result<Probe> Probe::find()
     return probe;
 }
 
-CheckReport Probe::run(const CheckInfo &check, const QString &file,
-                       const ValidateOptions &options) const
+CheckReport Probe::run(const CheckInfo &check, const QString &file, const ValidateOptions &options,
+                       const Interruption &interruption) const
 {
     QElapsedTimer timer;
     timer.start();
-    const QTemporaryDir folder;
-    const QString resultFile = folder.filePath(QStringLiteral("result.json"));
-    const QString progressFile = folder.filePath(QStringLiteral("progress.txt"));
     QProcess process;
-    const LastWords lastWords(process);
+    const ProbeTalk talk(process);
+    // Standard input stays open until oprun ends: its end tells the probe to end as well.
     process.start(m_program,
-                  {check.id, file, QStringLiteral("--seed"), QString::number(options.seed),
-                   QStringLiteral("--result"), resultFile, QStringLiteral("--progress"),
-                   progressFile, QStringLiteral("--keep"), options.keepFolder});
-    Outcome outcome = awaitOutcome(process, resultFile, options.timeoutSeconds);
+                  {check.id, file, QStringLiteral("--attended"), QStringLiteral("--seed"),
+                   QString::number(options.seed), QStringLiteral("--keep"), options.keepFolder});
+    Outcome outcome = awaitOutcome(process, talk, options.timeoutSeconds, interruption);
     if (outcome.verdict() == Verdict::Crashed || outcome.verdict() == Verdict::TimedOut)
-        addCircumstances(outcome, progressFile, lastWords);
+        addCircumstances(outcome, talk);
     return {check, outcome, timer.elapsed()};
 }

@@ -7,6 +7,7 @@
 #include <QList>
 #include <QString>
 
+class Interruption;
 struct ValidateOptions;
 
 /// One check of a report.
@@ -27,10 +28,10 @@ public:
     /// The checks it knows, in their order.
     const QList<CheckInfo> &checks() const { return m_checks; }
 
-    /// Runs a check on the plug-in `file` in a new process, which is ended when its time is over.
-    /// Whatever the plug-in does to that process is an outcome.
-    CheckReport run(const CheckInfo &check, const QString &file,
-                    const ValidateOptions &options) const;
+    /// Runs a check on the plug-in `file` in a new process, which is ended when its time is over
+    /// and when oprun is asked to end. Whatever the plug-in does to that process is an outcome.
+    CheckReport run(const CheckInfo &check, const QString &file, const ValidateOptions &options,
+                    const Interruption &interruption) const;
 
 private:
     Probe() = default;

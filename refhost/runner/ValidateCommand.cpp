@@ -12,6 +12,7 @@
 #include "refhost/runner/TextColumns.h"
 #include "refhost/runner/ValidateOptions.h"
 #include "refhost/runner/ValidationReport.h"
+#include "refhost/runner/rows/Interruption.h"
 
 #include <QCommandLineParser>
 #include <QJsonArray>
@@ -71,12 +72,17 @@ void printList(const QList<CheckInfo> &checks, bool asJson, Console &console)
 int validate(const QStringList &files, const Probe &probe, const ValidateOptions &options,
              Console &console)
 {
+    const Interruption interruption;
     // The worst first.
     const QList<int> statuses{PluginNotLoaded, PluginCrashed, CheckFailed, Success};
     int worst = statuses.size() - 1;
     QJsonArray json;
     for (const QString &file : files) {
-        const ValidationReport report(file, validatePlugin(file, probe, options));
+        const ValidationReport report(file, validatePlugin(file, probe, options, interruption));
+        if (interruption.requested()) {
+            console.complain(RunnerText::tr("validate: interrupted, nothing is reported"));
+            return EndedBySignal + interruption.signalNumber();
+        }
         worst = std::min(worst, statuses.indexOf(report.exitStatus()));
         json.append(report.toJson(options));
         if (options.json)

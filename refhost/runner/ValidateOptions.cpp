@@ -26,6 +26,13 @@ QCommandLineOption levelOption()
             QStringLiteral("LEVEL"), QStringLiteral("3")};
 }
 
+QCommandLineOption operandsOption()
+{
+    return {QStringLiteral("operands"),
+            QStringLiteral("Run the checks of the host's operand language as well, whatever their "
+                           "level.")};
+}
+
 QCommandLineOption onlyOption()
 {
     return {QStringLiteral("only"),
@@ -73,8 +80,8 @@ Result<quint32> numberOf(const QCommandLineParser &parser, const QCommandLineOpt
 
 QList<QCommandLineOption> ValidateOptions::all()
 {
-    return {levelOption(), onlyOption(),    listOption(), Options::json(),
-            seedOption(),  timeoutOption(), keepOption()};
+    return {levelOption(),   operandsOption(), onlyOption(),    listOption(),
+            Options::json(), seedOption(),     timeoutOption(), keepOption()};
 }
 
 Result<ValidateOptions> ValidateOptions::read(const QCommandLineParser &parser)
@@ -99,6 +106,7 @@ Result<ValidateOptions> ValidateOptions::read(const QCommandLineParser &parser)
     options.list = parser.isSet(listOption());
     options.json = parser.isSet(Options::json());
     options.level = static_cast<int>(level.value());
+    options.operands = parser.isSet(operandsOption());
     options.only = parser.values(onlyOption());
     options.seed = seed.value();
     options.timeoutSeconds = static_cast<int>(timeout.value());

@@ -14,6 +14,7 @@ struct ValidateOptions
     bool list = false; ///< list the checks instead
     bool json = false;
     int level = 3;
+    bool operands = false; ///< run the checks of the option "operands" as well
     QStringList only; ///< the identifiers of the checks to run whatever their level; empty for all
     quint32 seed = 1;
     int timeoutSeconds = 60;

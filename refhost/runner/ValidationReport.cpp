@@ -24,6 +24,19 @@ QJsonObject checkToJson(const CheckReport &report)
     return json;
 }
 
+/// The level, and whether the checks of the operand language ran; that they did not is of interest
+/// where their level was asked for.
+QString shownExtent(const ValidateOptions &options)
+{
+    constexpr int levelOfOperands = 4;
+    QString extent = QStringLiteral("level %1, ").arg(options.level);
+    if (options.operands)
+        extent += QStringLiteral("with --operands, ");
+    else if (options.level >= levelOfOperands)
+        extent += QStringLiteral("without --operands, ");
+    return extent;
+}
+
 } // namespace
 
 ValidationReport::ValidationReport(const QString &file, const QList<CheckReport> &reports)
@@ -47,8 +60,7 @@ QString ValidationReport::summary(const ValidateOptions &options) const
         if (count(verdict) > 0)
             counts.append(QStringLiteral("%1 %2").arg(count(verdict)).arg(verdictWord(verdict)));
     }
-    const QString extent =
-        options.only.isEmpty() ? QStringLiteral("level %1, ").arg(options.level) : QString();
+    const QString extent = options.only.isEmpty() ? shownExtent(options) : QString();
     return QStringLiteral("%1 (%2seed %3)")
         .arg(counts.join(QLatin1String(", ")), extent, QString::number(options.seed));
 }
@@ -82,6 +94,7 @@ QJsonObject ValidationReport::toJson(const ValidateOptions &options) const
     return {{QStringLiteral("plugin"), m_file},
             {QStringLiteral("seed"), static_cast<qint64>(options.seed)},
             {QStringLiteral("level"), options.level},
+            {QStringLiteral("operands"), options.operands},
             {QStringLiteral("checks"), checks},
             {QStringLiteral("counts"), counts}};
 }

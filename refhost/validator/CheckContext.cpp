@@ -1,19 +1,27 @@
 #include "refhost/validator/CheckContext.h"
 
 #include "refhost/engine/HostRefusal.h"
+#include "refhost/validator/ParentProcess.h"
+#include "refhost/validator/ProbeMessage.h"
 
 #include "IOperationPlugin.h"
 #include "Operation.h"
 
 #include <QPluginLoader>
 
-CheckContext::CheckContext(const QString &file, quint32 seed, const QString &progressFile,
-                           const QString &keepFolder)
+CheckContext::CheckContext(const QString &file, quint32 seed, const QString &keepFolder,
+                           int output)
     : m_file(file)
     , m_seed(seed)
     , m_keepFolder(keepFolder)
-    , m_progress(progressFile)
+    , m_output(output)
 {
+}
+
+void CheckContext::doing(const QString &activity)
+{
+    if (m_output >= 0)
+        writeToParent(m_output, activityLine(activity));
 }
 
 std::optional<QString> CheckContext::loadLibrary()

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "refhost/validator/Progress.h"
-
 #include <QList>
 #include <QString>
 
@@ -18,10 +16,9 @@ class QObject;
 class CheckContext
 {
 public:
-    /// `file` is the absolute path of the plug-in; `progressFile` may be empty. In `keepFolder` a
-    /// check leaves tasks that show what is wrong.
-    CheckContext(const QString &file, quint32 seed, const QString &progressFile,
-                 const QString &keepFolder);
+    /// `file` is the absolute path of the plug-in. In `keepFolder` a check leaves tasks that show
+    /// what is wrong. `output` is the pipe to oprun, negative where there is none.
+    CheckContext(const QString &file, quint32 seed, const QString &keepFolder, int output);
 
     const QString &file() const { return m_file; }
 
@@ -31,8 +28,12 @@ public:
     /// The folder for tasks that show what is wrong.
     const QString &keepFolder() const { return m_keepFolder; }
 
-    /// Notes what is done next, for instance "text.pad: saveOperation".
-    void doing(const QString &activity) { m_progress.note(activity); }
+    /// Tells oprun what is done next, for instance "text.pad: saveOperation", for the case that the
+    /// process ends or hangs while doing it.
+    void doing(const QString &activity);
+    /// Lets `doing` tell nothing from now on: in a copy of the process, whose lines would get
+    /// between those of this one.
+    void stopTelling() { m_output = -1; }
 
     /// Loads the library with all of its symbols and makes the root object; why that does not work,
     /// otherwise nothing.
@@ -56,7 +57,7 @@ private:
     QString m_file;
     quint32 m_seed;
     QString m_keepFolder;
-    Progress m_progress;
+    int m_output;
     QObject *m_root = nullptr;
     IOperationPlugin *m_plugin = nullptr;
 };

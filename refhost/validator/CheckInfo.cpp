@@ -27,7 +27,8 @@ QJsonObject CheckInfo::toJson() const
             {QStringLiteral("level"), level},
             {QStringLiteral("sentence"), sentence},
             {QStringLiteral("needs"), groundWord(needs)},
-            {QStringLiteral("provides"), groundWord(provides)}};
+            {QStringLiteral("provides"), groundWord(provides)},
+            {QStringLiteral("option"), option}};
 }
 
 CheckInfo CheckInfo::fromJson(const QJsonObject &json)
@@ -38,5 +39,6 @@ CheckInfo CheckInfo::fromJson(const QJsonObject &json)
     info.sentence = json.value(QStringLiteral("sentence")).toString();
     info.needs = groundFromWord(json.value(QStringLiteral("needs")).toString());
     info.provides = groundFromWord(json.value(QStringLiteral("provides")).toString());
+    info.option = json.value(QStringLiteral("option")).toString();
     return info;
 }

@@ -18,6 +18,7 @@ struct CheckInfo
     QString sentence;               ///< what holds when it passes
     Ground needs = Ground::Plugin;  ///< without this ground the check is skipped
     Ground provides = Ground::File; ///< that this ground is there when the check passes
+    QString option = {};            ///< the check runs with this option of oprun only, unless empty
 
     QJsonObject toJson() const;
 

@@ -3,6 +3,8 @@
 #include "refhost/engine/ProgramArguments.h"
 #include "refhost/validator/CheckContext.h"
 #include "refhost/validator/CheckList.h"
+#include "refhost/validator/ParentProcess.h"
+#include "refhost/validator/ProbeMessage.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -10,7 +12,6 @@
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QSaveFile>
 
 #include <cstdio>
 #include <cstdlib>
@@ -24,9 +25,8 @@ struct ProbeTask
 {
     QString plugin;
     quint32 seed = 1;
-    QString resultFile;
-    QString progressFile;
     QString keepFolder;
+    ParentPipes pipes; ///< none when it was not oprun that started the probe
 };
 
 const QCommandLineOption &listOption()
@@ -44,20 +44,12 @@ const QCommandLineOption &seedOption()
     return option;
 }
 
-const QCommandLineOption &resultOption()
+const QCommandLineOption &attendedOption()
 {
     static const QCommandLineOption option(
-        QStringLiteral("result"),
-        QStringLiteral("Write the outcome to this file instead of standard output."),
-        QStringLiteral("FILE"));
-    return option;
-}
-
-const QCommandLineOption &progressOption()
-{
-    static const QCommandLineOption option(
-        QStringLiteral("progress"), QStringLiteral("Note in this file what is just being done."),
-        QStringLiteral("FILE"));
+        QStringLiteral("attended"),
+        QStringLiteral("Print a JSON line before each call, the outcome in the last line, and end "
+                       "when standard input does."));
     return option;
 }
 
@@ -92,16 +84,13 @@ Outcome perform(const Check &check, CheckContext &context)
     return check.run(context);
 }
 
-/// Writes the outcome to the file, or to standard output when there is none. False when it cannot.
-bool writeOutcome(const Outcome &outcome, const QString &resultFile)
+/// Writes the outcome to oprun, or to standard output when oprun has not started the probe.
+void writeOutcome(const Outcome &outcome, int output)
 {
-    const QByteArray text = QJsonDocument(outcome.toJson()).toJson();
-    if (resultFile.isEmpty()) {
-        print(text, stdout);
-        return true;
-    }
-    QSaveFile file(resultFile);
-    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit();
+    if (output >= 0)
+        writeToParent(output, outcomeLine(outcome));
+    else
+        print(QJsonDocument(outcome.toJson()).toJson(), stdout);
 }
 
 /// Runs the check and ends the process there and then: how a plug-in behaves when a program ends is
@@ -110,9 +99,9 @@ bool writeOutcome(const Outcome &outcome, const QString &resultFile)
 {
     const auto application = check.makeApplication(argc, argv);
     Q_UNUSED(application)
-    CheckContext context(task.plugin, task.seed, task.progressFile, task.keepFolder);
-    const bool written = writeOutcome(perform(check, context), task.resultFile);
-    std::_Exit(written ? EXIT_SUCCESS : usageStatus);
+    CheckContext context(task.plugin, task.seed, task.keepFolder, task.pipes.output);
+    writeOutcome(perform(check, context), task.pipes.output);
+    std::_Exit(EXIT_SUCCESS);
 }
 
 int usageError(const QString &message)
@@ -126,14 +115,13 @@ int usageError(const QString &message)
 int runProbe(int argc, char *argv[])
 {
     QCommandLineParser parser;
-    parser.addOptions({listOption(), seedOption(), resultOption(), progressOption(), keepOption()});
+    parser.addOptions({listOption(), seedOption(), attendedOption(), keepOption()});
     const Result<QStringList> given = programArguments(argc, argv);
     if (!given)
         return usageError(given.problem().toString());
     if (!parser.parse(given.value()))
         return usageError(parser.errorText());
-    for (const QCommandLineOption &option :
-         {seedOption(), resultOption(), progressOption(), keepOption()}) {
+    for (const QCommandLineOption &option : {seedOption(), keepOption()}) {
         if (parser.values(option).size() > 1) {
             return usageError(
                 QStringLiteral("--%1 is given twice").arg(option.names().constFirst()));
@@ -153,8 +141,10 @@ int runProbe(int argc, char *argv[])
     // Qt would look for a relative path in its own plug-in folders, not here.
     task.plugin = QFileInfo(arguments.last()).absoluteFilePath();
     task.seed = parser.value(seedOption()).toUInt();
-    task.resultFile = parser.value(resultOption());
-    task.progressFile = parser.value(progressOption());
     task.keepFolder = parser.value(keepOption());
+    if (parser.isSet(attendedOption())) {
+        task.pipes = takeStandardStreams();
+        endWithParent(task.pipes.input);
+    }
     runCheck(*check, task, argc, argv);
 }

@@ -12,14 +12,19 @@
 
 namespace {
 
-std::atomic<bool> endRequested = false;
+std::atomic<int> endSignal = 0; ///< the signal that asked the program to end
 std::atomic<bool> waitingEnded = false;
 
 } // namespace
 
 bool Interruption::requested() const
 {
-    return endRequested;
+    return endSignal != 0;
+}
+
+int Interruption::signalNumber() const
+{
+    return endSignal;
 }
 
 #ifdef Q_OS_UNIX
@@ -35,10 +40,10 @@ void wake()
     [[maybe_unused]] const auto written = write(wakeUp[1], "", 1);
 }
 
-void requestEnd(int)
+void requestEnd(int number)
 {
     const int before = errno;
-    endRequested = true;
+    endSignal = number;
     wake();
     errno = before;
 }
@@ -90,6 +95,11 @@ bool Interruption::waitForInput(int descriptor) const
     return !waitingEnded;
 }
 
+int Interruption::wakeUpDescriptor() const
+{
+    return wakeUp[0];
+}
+
 void Interruption::endWaiting()
 {
     wake();
@@ -99,9 +109,9 @@ void Interruption::endWaiting()
 
 namespace {
 
-void requestEnd(int)
+void requestEnd(int number)
 {
-    endRequested = true;
+    endSignal = number;
     waitingEnded = true;
 }
 
@@ -120,6 +130,11 @@ bool Interruption::waitForInput(int descriptor) const
 {
     Q_UNUSED(descriptor)
     return !waitingEnded;
+}
+
+int Interruption::wakeUpDescriptor() const
+{
+    return -1;
 }
 
 void Interruption::endWaiting()

@@ -16,6 +16,13 @@ public:
     /// Whether there was such a wish. From any thread.
     bool requested() const;
 
+    /// Returns the number of the signal that asked the program to end, 0 when there was none.
+    int signalNumber() const;
+
+    /// Returns a descriptor that can be read once the program has been asked to end; negative where
+    /// the system has no such signals.
+    int wakeUpDescriptor() const;
+
     /// Waits until the open file `descriptor` can be read, or cannot be waited for. False when the
     /// wish to end or `endWaiting` comes first.
     bool waitForInput(int descriptor) const;

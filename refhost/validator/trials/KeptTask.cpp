@@ -5,6 +5,7 @@
 #include "refhost/engine/Task.h"
 #include "refhost/engine/TaskWriter.h"
 #include "refhost/validator/CheckContext.h"
+#include "refhost/validator/ParentProcess.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -38,7 +39,13 @@ KeptTask::KeptTask(const CheckContext &context, const QString &checkId, const QS
     , m_commandLine(QStringLiteral("oprun run %1 --plugin %2")
                         .arg(quoted(m_file.fileName()), quoted(context.file())))
 {
-    m_file.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+    if (m_file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+        setFileToRemove(QFile::encodeName(m_file.fileName()));
+}
+
+KeptTask::~KeptTask()
+{
+    setFileToRemove({});
 }
 
 QString KeptTask::problem() const
