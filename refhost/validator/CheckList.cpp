@@ -13,6 +13,7 @@
 #include "refhost/validator/checks/IconPicturesCheck.h"
 #include "refhost/validator/checks/IdentityCheck.h"
 #include "refhost/validator/checks/IndependenceCheck.h"
+#include "refhost/validator/checks/InputChecks.h"
 #include "refhost/validator/checks/InterfaceIdCheck.h"
 #include "refhost/validator/checks/KeysCheck.h"
 #include "refhost/validator/checks/LargeTextsCheck.h"
@@ -24,6 +25,8 @@
 #include "refhost/validator/checks/MessagesCheck.h"
 #include "refhost/validator/checks/MetadataCheck.h"
 #include "refhost/validator/checks/NestingCheck.h"
+#include "refhost/validator/checks/OperandChecks.h"
+#include "refhost/validator/checks/ProcessChecks.h"
 #include "refhost/validator/checks/PropertiesCheck.h"
 #include "refhost/validator/checks/PrototypesCheck.h"
 #include "refhost/validator/checks/QtVersionCheck.h"
@@ -75,6 +78,9 @@ Checks allChecks()
     add<WithoutScopeCheck, WithoutResultCheck, ResultTypesCheck, WritesCheck, RepetitionCheck,
         MessagesCheck, ExceptionsCheck, CloneCheck, CloneLifeCheck, SummaryCheck, RecordCheck,
         RecordFormsCheck, TruncatedRecordsCheck, RandomRecordsCheck>(checks);
+    addRows(checks, inputChecks());
+    addRows(checks, processChecks());
+    addRows(checks, operandChecks());
     // Level 5: what they do under attack.
     add<StepsCheck, NestingCheck, LargeTextsCheck, ThreadsCheck, LocalesCheck>(checks);
     return checks;

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void runsOnlyThoseNamed();
     void runsUpToTheLevel_data();
     void runsUpToTheLevel();
+    void runsOperandChecksOnRequest();
     void repeatsTheSeed();
     void showsWhyOthersAreSkipped();
     void worstOfSeveralPlugins();
@@ -182,9 +183,11 @@ void ValidateCommandTest::reportsAsJson()
     QCOMPARE(outcome.err, QString());
     QCOMPARE(outcome.status, 1);
     const QJsonObject plugin = firstPlugin(outcome.out);
-    QCOMPARE(plugin.keys(), QStringList({"checks", "counts", "level", "plugin", "seed"}));
+    QCOMPARE(plugin.keys(),
+             QStringList({"checks", "counts", "level", "operands", "plugin", "seed"}));
     QCOMPARE(plugin["plugin"].toString(), QString(GREET_PLUGIN));
     QCOMPARE(plugin["level"].toInt(), 2);
+    QCOMPARE(plugin["operands"], QJsonValue(false));
     QCOMPARE(plugin["seed"].toInt(), 1);
     QCOMPARE(plugin["counts"]["crashed"].toInt(-1), 0);
     const QJsonArray checks = plugin["checks"].toArray();
@@ -231,7 +234,7 @@ void ValidateCommandTest::runsUpToTheLevel()
     QStringList expected;
     const QJsonArray all = parsed(validate({"--list", "--json"}).out)["checks"].toArray();
     for (const QJsonValue &check : all) {
-        if (check["level"].toInt() <= level)
+        if (check["level"].toInt() <= level && check["option"].toString().isEmpty())
             expected.append(check["id"].toString());
     }
     // On a file that does not load, so that it takes no time.
@@ -239,6 +242,28 @@ void ValidateCommandTest::runsUpToTheLevel()
         validate({"--json", "notes.so", "--level", QString::number(level)});
     QCOMPARE(idsIn(firstPlugin(outcome.out)), expected);
     QCOMPARE(outcome.status, 3);
+}
+
+void ValidateCommandTest::runsOperandChecksOnRequest()
+{
+    const QStringList operandChecks{"operands.references", "operands.numbers", "operands.lists",
+                                    "operands.members"};
+    // On a file that does not load, so that it takes no time.
+    const auto idsWith = [&](const QStringList &arguments) {
+        return idsIn(firstPlugin(validate(QStringList{"--json", "notes.so"} + arguments).out))
+            .filter("operands.");
+    };
+    QCOMPARE(idsWith({"--level", "5"}), QStringList());
+    QCOMPARE(idsWith({"--level", "1", "--operands"}), operandChecks);
+    QCOMPARE(idsWith({"--only", "operands.lists"}), QStringList("operands.lists"));
+
+    const auto lastLineWith = [&](const QStringList &arguments) {
+        return validate(QStringList{"notes.so"} + arguments).out.section('\n', -2, -2);
+    };
+    QVERIFY(lastLineWith({"--level", "3"}).endsWith("(level 3, seed 1)"));
+    QVERIFY(lastLineWith({"--level", "4"}).endsWith("(level 4, without --operands, seed 1)"));
+    QVERIFY(lastLineWith({"--operands"}).endsWith("(level 3, with --operands, seed 1)"));
+    QVERIFY(lastLineWith({"--only", "operands.lists"}).endsWith("(seed 1)"));
 }
 
 void ValidateCommandTest::repeatsTheSeed()

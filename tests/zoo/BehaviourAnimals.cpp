@@ -92,9 +92,80 @@ QList<Animal> recordAnimals()
     };
 }
 
+QList<Animal> processAnimals()
+{
+    return {
+        {"SetsLocale",
+         1,
+         {"failed behaviour.process"},
+         "doOperation, ordinary settings: changes the default locale from \"is_IS\" to \"de_DE\""},
+        {"ChangesFolder",
+         1,
+         {"failed behaviour.process"},
+         "doOperation, ordinary settings: changes the working folder from "},
+        {"PrintsResult",
+         1,
+         {"failed behaviour.output"},
+         "doOperation, ordinary settings: prints \"$line\\n\""},
+        {"LeaksMemory", 1, {"failed behaviour.memory"}, "doOperation: 655"},
+        {"LeaksClone", 1, {"failed behaviour.memory"}, "clone: "},
+    };
+}
+
+QList<Animal> inputAnimals()
+{
+    return {
+        {"EmptiesResult",
+         1,
+         {"failed behaviour.resultAsOperand"},
+         "text = \"$result\", a result variable of type string that is \"One, two\": gives \"\""},
+        {"CachesByLength",
+         1,
+         {"failed behaviour.order"},
+         "text = \"a\": gives something else when other steps ran before"},
+        {"WritesOther",
+         1,
+         {"failed behaviour.writes"},
+         "ordinary settings: writes zooLast besides its result variable"},
+        {"WritesBesideResult",
+         1,
+         {"failed behaviour.writes"},
+         "ordinary settings: writes result_ok besides its result variable"},
+    };
+}
+
+/// Faults in how operands are read, which are looked for on request only.
+QList<Animal> operandAnimals()
+{
+    const QStringList options{"--operands"};
+    return {
+        {"RendersTightly",
+         1,
+         {"failed operands.lists"},
+         "text = \"$list\": gives \"a,1,2.5,true,1,b,2.5\"; expected \"a, 1, 2.5, true, 1, b, 2.5\"",
+         options},
+        {"KeepsNumerals",
+         1,
+         {"failed operands.numbers"},
+         "text = \"007\": gives \"007\"; expected \"7\", as with text = \"$seven\"",
+         options},
+        {"KnowsNoCount",
+         1,
+         {"failed operands.members"},
+         "text = \"$list.Count\": gives \"\"; expected \"5\"",
+         options},
+        {"TrimsNames",
+         1,
+         {"failed operands.references"},
+         "text = \"$line \": gives \" One, two, 3: four-five. \"; expected \"\"",
+         options},
+    };
+}
+
 } // namespace
 
 QList<Animal> behaviourAnimals()
 {
-    return runningAnimals() + copyingAnimals() + recordAnimals();
+    return runningAnimals() + copyingAnimals() + recordAnimals() + processAnimals() +
+           inputAnimals() + operandAnimals();
 }

@@ -1,17 +1,12 @@
 #include "tests/zoo/SoundBase.h"
 
+#include "examples/plugin/Operand.h"
+
 #include "VariableScope.h"
 
 #include <QMessageLogger>
 
 namespace {
-
-/// The value of an operand: a literal, or the variable it refers to.
-QString operandText(const QString &operand, const VariableScope &scope)
-{
-    const bool isReference = operand.size() > 1 && operand.startsWith(QLatin1Char('$'));
-    return isReference ? scope.get(operand.mid(1)).toString() : operand;
-}
 
 QList<QMetaProperty> propertiesOf(const QObject &object)
 {
@@ -36,8 +31,12 @@ void SoundBase::doOperation() const
 
 QString SoundBase::result() const
 {
-    const QString text = operandText(m_text, *scope);
-    return m_mode == 1 ? text + operandText(m_suffix, *scope) : text;
+    return m_mode == 1 ? valueOf(m_text) + valueOf(m_suffix) : valueOf(m_text);
+}
+
+QString SoundBase::valueOf(const QString &operand) const
+{
+    return operandText(operand, *scope);
 }
 
 void SoundBase::saveOperation(QDataStream &stream) const

@@ -36,6 +36,9 @@ protected:
     /// The text that the operation stores.
     QString result() const;
 
+    /// The text that an operand stands for.
+    virtual QString valueOf(const QString &operand) const;
+
 private:
     QString m_text;
     int m_mode = 0;

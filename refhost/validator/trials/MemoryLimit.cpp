@@ -2,6 +2,9 @@
 
 #include <QtGlobal>
 
+#ifdef __GLIBC__
+#    include <malloc.h>
+#endif
 #ifdef Q_OS_LINUX
 #    include <QFile>
 
@@ -38,6 +41,22 @@ rlim_t addressSpace()
 #endif
 
 } // namespace
+
+std::optional<qint64> allocatedBytes()
+{
+    if (hasSanitizer())
+        return std::nullopt;
+#if defined(__GLIBC__) && __GLIBC_PREREQ(2, 33)
+    const struct mallinfo2 info = mallinfo2();
+    return static_cast<qint64>(info.uordblks + info.hblkhd);
+#elif defined(__GLIBC__)
+    // The fields are of type int and wrap around beyond 2 GiB.
+    const struct mallinfo info = mallinfo();
+    return static_cast<qint64>(info.uordblks) + info.hblkhd;
+#else
+    return std::nullopt;
+#endif
+}
 
 std::optional<QString> memoryLimitObstacle()
 {

@@ -5,6 +5,25 @@
 
 #include <utility>
 
+Outcome examineOperations(CheckContext &context, OperationNeeds needs,
+                          const std::function<void(Specimen &)> &examine)
+{
+    Outcome outcome;
+    const QList<Operation *> prototypes = context.newPrototypes();
+    for (Operation *prototype : prototypes) {
+        Specimen specimen(*prototype, context);
+        // Other checks tell of a clone that is none.
+        if (needs != OperationNeeds::Nothing && !specimen.canBeCloned())
+            specimen.remark(QStringLiteral("cannot be cloned; not checked"));
+        else if (needs == OperationNeeds::CloneAndResultVariable && !specimen.hasResultVariable())
+            specimen.remark(QStringLiteral("has no property resultVar; not checked"));
+        else
+            examine(specimen);
+        specimen.addFindingsTo(outcome);
+    }
+    return outcome;
+}
+
 OperationCheck::OperationCheck(CheckInfo info, Needs needs)
     : Check(std::move(info))
     , m_needs(needs)
@@ -13,18 +32,6 @@ OperationCheck::OperationCheck(CheckInfo info, Needs needs)
 
 Outcome OperationCheck::run(CheckContext &context) const
 {
-    Outcome outcome;
-    const QList<Operation *> prototypes = context.newPrototypes();
-    for (Operation *prototype : prototypes) {
-        Specimen specimen(*prototype, context);
-        // Other checks tell of a clone that is none.
-        if (m_needs != Needs::Nothing && !specimen.canBeCloned())
-            specimen.remark(QStringLiteral("cannot be cloned; not checked"));
-        else if (m_needs == Needs::CloneAndResultVariable && !specimen.hasResultVariable())
-            specimen.remark(QStringLiteral("has no property resultVar; not checked"));
-        else
-            examine(specimen, context);
-        specimen.addFindingsTo(outcome);
-    }
-    return outcome;
+    return examineOperations(context, m_needs,
+                             [&](Specimen &specimen) { examine(specimen, context); });
 }

@@ -2,7 +2,16 @@
 
 #include "refhost/validator/Check.h"
 
+#include <functional>
+
 class Specimen;
+
+/// Properties of an operation without which a check cannot examine it.
+enum class OperationNeeds { Nothing, Clone, CloneAndResultVariable };
+
+/// Calls `examine` for each operation that has what is needed and returns what it found.
+Outcome examineOperations(CheckContext &context, OperationNeeds needs,
+                          const std::function<void(Specimen &)> &examine);
 
 /// A check that looks at each operation by itself.
 class OperationCheck : public Check
@@ -11,8 +20,7 @@ public:
     Outcome run(CheckContext &context) const final;
 
 protected:
-    /// What an operation needs for the check to make sense.
-    enum class Needs { Nothing, Clone, CloneAndResultVariable };
+    using Needs = OperationNeeds;
 
     explicit OperationCheck(CheckInfo info, Needs needs = Needs::Clone);
 

@@ -3,6 +3,8 @@
 #include "tests/zoo/SoundPlugin.h"
 #include "tests/zoo/Variant.h"
 
+#include <memory>
+
 /// The operation of the plug-in below.
 class CloneSharesOperation : public Variant<CloneSharesOperation, SoundBase>
 {
@@ -30,7 +32,7 @@ public:
     }
 
 private:
-    QString *m_text = new QString; // left behind
+    std::shared_ptr<QString> m_text = std::make_shared<QString>();
 };
 
 /// Clones share a property with their original.
