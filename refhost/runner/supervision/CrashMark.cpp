@@ -12,28 +12,23 @@
 #    include <new>
 #endif
 
-// The sanitizers have handlers of their own, which report the crash.
-#if defined(__has_feature)
-#    if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
-#        define OPRUN_SANITIZED
-#    endif
-#elif defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-#    define OPRUN_SANITIZED
-#endif
-
-#if defined(Q_OS_UNIX) && !defined(OPRUN_SANITIZED)
+#ifdef Q_OS_UNIX
 
 namespace {
 
 constexpr std::size_t stackSize = 32768;
 
-/// The stack, which the thread gives back at its end.
+/// The stack, which the thread gives back at its end. A thread that has one, of a sanitizer for
+/// instance, keeps that.
 class SignalStack
 {
 public:
     SignalStack()
-        : m_bytes(new (std::nothrow) char[stackSize])
     {
+        stack_t before = {};
+        if (sigaltstack(nullptr, &before) != 0 || (before.ss_flags & SS_DISABLE) == 0)
+            return;
+        m_bytes.reset(new (std::nothrow) char[stackSize]);
         stack_t stack = {};
         stack.ss_sp = m_bytes.get();
         stack.ss_size = stackSize;
@@ -44,7 +39,8 @@ public:
     {
         stack_t none = {};
         none.ss_flags = SS_DISABLE;
-        sigaltstack(&none, nullptr);
+        if (m_bytes)
+            sigaltstack(&none, nullptr);
     }
 
 private:
@@ -65,8 +61,13 @@ void handleCrashes()
     struct sigaction action = {};
     action.sa_handler = markAndRaise;
     action.sa_flags = SA_ONSTACK | SA_NODEFER | static_cast<int>(SA_RESETHAND);
-    for (const int signal : {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT, SIGTRAP, SIGSYS})
-        sigaction(signal, &action, nullptr);
+    for (const int signal : {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT, SIGTRAP, SIGSYS}) {
+        struct sigaction before = {};
+        sigaction(signal, nullptr, &before);
+        // The sanitizers have handlers of their own, which report the crash.
+        if (before.sa_handler == SIG_DFL)
+            sigaction(signal, &action, nullptr);
+    }
 }
 
 } // namespace
