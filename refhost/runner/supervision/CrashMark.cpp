@@ -7,12 +7,10 @@
 #include <cstdlib>
 
 #ifdef Q_OS_UNIX
+
 #    include <csignal>
 #    include <memory>
 #    include <new>
-#endif
-
-#ifdef Q_OS_UNIX
 
 namespace {
 
