@@ -605,5 +605,9 @@
         <source>is about rows of JSON; leave out &quot;--lines&quot;</source>
         <translation>只用于 JSON 数据行；请去掉 &quot;--lines&quot;</translation>
     </message>
+    <message>
+        <source>validate: interrupted, nothing is reported</source>
+        <translation>validate：已中断，不输出报告</translation>
+    </message>
 </context>
 </TS>
