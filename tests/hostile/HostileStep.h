@@ -13,9 +13,10 @@ class VariableScope;
 struct HostileStep
 {
     enum class Ending {
-        TooLarge, ///< one warning that the result is too large, an unchanged scope
-        Warning,  ///< one other warning, an unchanged scope
-        Result    ///< a result and no warning
+        TooLarge,           ///< one warning that the result is too large, an unchanged scope
+        WarningAndTooLarge, ///< one other warning, then the one above, an unchanged scope
+        Warning,            ///< one other warning, an unchanged scope
+        Result              ///< a result and no warning
     };
 
     QByteArray name;

@@ -25,7 +25,7 @@ run(${CMAKE_COMMAND} -S ${SOURCE_DIR} -B ${WORK_DIR}/build -G ${GENERATOR}
 run(${CMAKE_COMMAND} --build ${WORK_DIR}/build)
 
 file(GLOB plugins ${WORK_DIR}/build/plugins/*)
-list(FILTER plugins EXCLUDE REGEX "\\.examples\\.json$|_[a-z]+\\.qm$")
+list(FILTER plugins EXCLUDE REGEX "\\.(examples|facts)\\.json$|_[a-z]+\\.qm$")
 list(LENGTH plugins count)
 if(NOT count EQUAL 1)
     message(FATAL_ERROR "expected one plug-in, there are ${count}: ${plugins}")

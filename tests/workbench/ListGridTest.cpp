@@ -319,7 +319,8 @@ void ListGridTest::copiesABlock()
     m_table->setFocus();
     select(2, 0, 3, 3);
     QTest::keyClick(m_table, Qt::Key_C, Qt::ControlModifier);
-    QCOMPARE(QApplication::clipboard()->text(), "true\t9007199254740993\t\t\nx\t[1,2]\t007\tend\n");
+    QCOMPARE(QApplication::clipboard()->text(),
+             "true\t9007199254740993\t\t\nx\t[1,2.0]\t007\tend\n");
     select(0, 1, 0, 1);
     QTest::keyClick(m_table, Qt::Key_C, Qt::ControlModifier);
     QCOMPARE(QApplication::clipboard()->text(), "1");
