@@ -9,8 +9,7 @@
 
 #include <QPluginLoader>
 
-CheckContext::CheckContext(const QString &file, quint32 seed, const QString &keepFolder,
-                           int output)
+CheckContext::CheckContext(const QString &file, quint32 seed, const QString &keepFolder, int output)
     : m_file(file)
     , m_seed(seed)
     , m_keepFolder(keepFolder)

@@ -16,13 +16,13 @@ struct ParentPipes
 /// place, so that a plug-in that reads or prints does not disturb the connection.
 ParentPipes takeStandardStreams();
 
-/// Writes all the bytes; does nothing for a negative descriptor. They have left the process when this
-/// returns, whatever happens next. A failure is ignored: then the reader has ended.
+/// Writes all the bytes; does nothing for a negative descriptor. They have left the process when
+/// this returns, whatever happens next. A failure is ignored: then the reader has ended.
 void writeToParent(int output, const QByteArray &bytes);
 
 /// Ends this process and all processes that the plug-in started as soon as oprun ends, however that
-/// happens and whatever the plug-in does. A request to end (SIGTERM) has the same effect. `input` is
-/// that of the pipes. To be called once, before a plug-in is loaded.
+/// happens and whatever the plug-in does. A request to end (SIGTERM) has the same effect. `input`
+/// is that of the pipes. To be called once, before a plug-in is loaded.
 void endWithParent(int input);
 
 /// Sets the file to remove when the process ends with its parent, in the encoding of the file
