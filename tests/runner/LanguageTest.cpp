@@ -382,10 +382,10 @@ void LanguageTest::tasksAreTheSameInEveryLanguage()
 void LanguageTest::catalogueOrderStays()
 {
     const QStringList plugins{"--plugin", GREET_PLUGIN, "--plugin", PLUGIN_FILE};
-    const auto chinese = run(QStringList("catalog") + plugins);
+    const auto inSources = run(QStringList("catalog") + plugins);
     const auto inEnglish = run(QStringList("catalog") + plugins, english);
-    QVERIFY(chinese.out != inEnglish.out);
-    QCOMPARE(typeIds(inEnglish.out).filter("."), typeIds(chinese.out).filter("."));
+    QVERIFY(inSources.out != inEnglish.out);
+    QCOMPARE(typeIds(inEnglish.out).filter("."), typeIds(inSources.out).filter("."));
 }
 
 void LanguageTest::unusableTranslation()
