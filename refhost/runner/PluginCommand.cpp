@@ -60,8 +60,11 @@ QList<FileRole> PluginCommand::files(const QCommandLineParser &options,
                                      const QStringList &arguments) const
 {
     Q_UNUSED(options)
-    Q_UNUSED(arguments)
-    return {};
+    const QString task = QStringLiteral("TASK");
+    if (this->arguments().value(0) != task)
+        return {};
+    return {readRole(task, arguments.first()),
+            writtenRole(RunnerText::tr("standard output"), QStringLiteral("-"))};
 }
 
 const CatalogEntry *PluginCommand::findOrComplain(const OperationCatalog &catalog,

@@ -25,9 +25,9 @@ protected:
     /// record: these are then the same in every locale.
     virtual bool isForPrograms(const QCommandLineParser &options) const;
 
-    /// Returns the files that the command reads and writes, without the plug-ins; nothing for a
-    /// command that only prints. A written file that is the same as another is refused before
-    /// anything is opened.
+    /// Returns the files that the command reads and writes, without the plug-ins. A written file
+    /// that is the same as another is refused before anything is opened. By default a command with
+    /// a TASK reads its file and writes standard output; any other command has no files.
     virtual QList<FileRole> files(const QCommandLineParser &options,
                                   const QStringList &arguments) const;
 

@@ -268,7 +268,7 @@ void FaultyStepsTest::crashOnRows()
         QCOMPARE(lastLines(outcome.err, 2),
                  QString("oprun: rows: line 3: %1: oprun was ended by %2 during this step\n"
                          "oprun: 2 rows: 2 done, 0 failed; 0 warnings; crashed; "
-                         "out is not written\n")
+                         "out is not written; errors is not written\n")
                      .arg(place, actualEnding(ending, outcome.err)));
         QCOMPARE(outcome.status, 6);
         QVERIFY(leavesNothing());
@@ -413,7 +413,7 @@ void FaultyStepsTest::timeLimitOfARow()
     QCOMPARE(outcome.err, QString("oprun: rows: line 3: %1: oprun was ended by force during this "
                                   "step, since the row took more than 0.5 s\n"
                                   "oprun: 2 rows: 2 done, 0 failed; 0 warnings; timed out; "
-                                  "out is not written\n")
+                                  "out is not written; errors is not written\n")
                               .arg(place));
     QCOMPARE(outcome.status, 124);
     QVERIFY(leavesNothing());
@@ -503,7 +503,7 @@ void FaultyStepsTest::interruptedRow()
              QString("oprun: rows: line 3: %1: oprun was ended by force during this step, 1 s "
                      "after the interruption\n"
                      "oprun: 2 rows: 2 done, 0 failed; 0 warnings; interrupted; "
-                     "out is not written\n")
+                     "out is not written; errors is not written\n")
                  .arg(place));
     QCOMPARE(process.exitCode(), 130);
     QVERIFY(leavesNothing());

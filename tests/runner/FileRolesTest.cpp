@@ -110,6 +110,10 @@ void FileRolesTest::refuses_data()
     row("unpack task.json plugins/libOwn.so --plugin plugins/libOwn.so",
         R"(OUT: "plugins/libOwn.so" is the same file as "plugins/libOwn.so" (plug-in); )"
         "expected another file");
+    for (const QString command : {"check", "explain"}) {
+        row(command + " task.json >> task.json",
+            R"(standard output: leads to the same file as "task.json" (TASK); expected another file)");
+    }
     row("pack task.json - >> task.json",
         R"(OUT: leads to the same file as "task.json" (TASK); expected another file)");
 }

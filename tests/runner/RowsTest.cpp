@@ -413,6 +413,9 @@ void RowsTest::firstRowsThatPass_data()
     row("an array behind a row", "{}\n[]\n", 1);
     row("a bad row", "{\"n\":\n{}\n", 1);
     row("a row that is cut off", "{\"word\":\"a,\n{}\n", 1);
+    row("a row that is cut off behind a comma", "{\"word\":\"a\",\n{}\n", 1);
+    row("a row that is cut off in a list", "{\"word\":[1,\n{}\n", 1);
+    row("a row that is cut off at the end", "{\"word\":\"a\",\n", 0);
     row("a row with a comma behind it", "{},\n{}\n", 1);
     row("a scalar", "null\n{}\n", 1);
     row("a string", "\"a,b\"\n{}\n", 1);
@@ -767,7 +770,8 @@ void RowsTest::interrupted()
         QCOMPARE(process.exitCode(), 130);
         const QString missing = out == "-" ? "" : "; kept is not written";
         QCOMPARE(QString::fromUtf8(process.readAllStandardError()),
-                 "oprun: 3 rows: 2 done, 1 failed; 0 warnings; interrupted" + missing + '\n');
+                 "oprun: 3 rows: 2 done, 1 failed; 0 warnings; interrupted" + missing +
+                     "; errors-kept is not written\n");
     }
     QCOMPARE(m_folder->read("kept"), QByteArray("before"));
     QVERIFY(!QFile::exists(m_folder->filePath("errors-kept")));
@@ -845,7 +849,7 @@ void RowsTest::errorsThatCannotBeWritten()
     QCOMPARE(outcome.err,
              QString("oprun: /dev/full: cannot be written (No space left on device)\n"
                      "oprun: 5 rows: 2 done, 3 failed; 0 warnings; stopped; unwritten is not "
-                     "written\n"));
+                     "written; /dev/full is not written\n"));
     QVERIFY(!QFile::exists(m_folder->filePath("unwritten")));
 }
 

@@ -22,10 +22,9 @@ std::optional<Problem> findFormat(const Format *begin, const Format *end, const 
     return Problem{Problem::Reason::UnfitValue, {}, {}, RunnerText::tr(found->message)};
 }
 
-/// Returns the first line that is not blank, with its line break if there is one.
-QByteArray firstRow(const QByteArray &head)
+/// Returns the first line from `begin` on that is not blank, with its line break if there is one.
+QByteArray firstRow(const QByteArray &head, int begin = 0)
 {
-    int begin = 0;
     for (int end = head.indexOf('\n'); end >= 0; end = head.indexOf('\n', begin)) {
         const QByteArray line = head.mid(begin, end + 1 - begin);
         if (!line.trimmed().isEmpty())
@@ -145,12 +144,23 @@ bool isArray(const QByteArray &head)
     return firstRow(head).trimmed().startsWith('[');
 }
 
+/// Returns true if `text` is an object whose brackets all close.
+bool isWholeObject(const QByteArray &text)
+{
+    return text.startsWith('{') && text.endsWith('}') && scanned(text).depth == 0;
+}
+
+/// Returns true if the first row is the beginning of an object that goes on in the next line. A
+/// row that is cut off has a whole object behind it.
 bool isBrokenObject(const QByteArray &head)
 {
     const QByteArray row = firstRow(head);
     const QByteArray text = row.trimmed();
     // Without its line break the row may be cut off by the end of the head.
     if (!text.startsWith('{') || !row.endsWith('\n'))
+        return false;
+    const QByteArray next = firstRow(head, head.indexOf(row) + row.size()).trimmed();
+    if (isWholeObject(next) || (next.isEmpty() && text.endsWith(',')))
         return false;
     const JsonScan scan = scanned(text);
     return scan.depth > 0 && !scan.isInString &&

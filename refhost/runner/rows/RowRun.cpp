@@ -236,6 +236,8 @@ QString summary(const RowTally &tally, qint64 skipped, const RowEnd &end, const 
         text += RunnerText::tr("; %1").arg(end.reason);
     if (outIsMissing && run.out != QLatin1String("-"))
         text += RunnerText::tr("; %1 is not written").arg(run.out);
+    if (!end.keepsErrors && !run.errors.isEmpty())
+        text += RunnerText::tr("; %1 is not written").arg(run.errors);
     return text;
 }
 
@@ -248,6 +250,7 @@ void noteRun(const RowRun &run, const RowSource &source, const OutputFile &out,
     progress.hasRows = true;
     if (!out.isStandardOutput())
         progress.output.set(run.out.toUtf8());
+    progress.errors.set(run.errors.toUtf8());
     for (const QByteArray &file : {out.temporaryFile(), errors.temporaryFile()}) {
         if (!file.isEmpty())
             progress.addTemporaryFile(file);
@@ -309,6 +312,7 @@ int runRows(const Task &task, const RowRun &run, WarningExplainer &explainer,
         console.complain(problem->toString());
         return BadInput;
     }
+    RunProgress::current().skippedRows = skipped;
     RowSink sink(source.name(), out, hasErrors ? &errors : nullptr, run.plugins, explainer,
                  console);
     problem = runAll(task, run, interruption, source, sink);

@@ -159,14 +159,18 @@ QString tallyMessage(const ProcessEnd &end, const RunProgress &run)
     RowTally tally;
     for (const ThreadProgress &thread : run.threads)
         tally += thread.tally();
-    QString text = tally.toString() + QLatin1String("; ") + endingWord(end);
+    QString text = tally.toString();
+    if (run.skippedRows > 0)
+        text += RunnerText::tr("; %1 skipped").arg(run.skippedRows.load());
+    text += RunnerText::tr("; %1").arg(endingWord(end));
     const QString output = run.output.get();
     const qint64 unwritten = tally.rows - run.writtenRows.load();
     if (!output.isEmpty())
         text += RunnerText::tr("; %1 is not written").arg(output);
     else if (unwritten > 0)
         text += RunnerText::tr("; the last %1 of them are not printed").arg(unwritten);
-    return text;
+    const QString errors = run.errors.get();
+    return errors.isEmpty() ? text : text + RunnerText::tr("; %1 is not written").arg(errors);
 }
 
 } // namespace

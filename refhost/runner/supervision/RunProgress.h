@@ -82,6 +82,7 @@ struct RunProgress
     std::array<ThreadProgress, mostThreads> threads;
     std::atomic<int> threadCount;
     std::atomic<qint64> writtenRows; ///< rows whose lines have been written
+    std::atomic<qint64> skippedRows; ///< rows at the start that were passed over
     std::atomic<bool> hasRows;       ///< the task runs on rows
     std::atomic<bool> isWriting;     ///< results are being written
     std::atomic<bool> isFinished;    ///< the work is done, the process only has to end
@@ -89,6 +90,7 @@ struct RunProgress
     Text activity; ///< what the process does besides running steps, such as "loading a.so"
     Text source;
     Text output; ///< the file that appears when all rows are done, empty for none
+    Text errors; ///< the same for the file of failed rows
     std::array<Text, mostFiles> temporaryFiles;
     std::array<std::atomic<int>, mostSteps> stepNames; ///< index in `names` plus 1
     std::array<Text, 1024> names;
