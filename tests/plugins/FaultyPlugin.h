@@ -42,7 +42,7 @@ inline void commitFault(const QString &fault)
          }},
         {"loop",
          [] {
-             for (volatile int i = 0;; i = i + 1) {
+             for (volatile unsigned i = 0;; i = i + 1) {
              }
          }},
         {"block", [] { std::this_thread::sleep_for(std::chrono::hours(1)); }},
