@@ -37,14 +37,20 @@ QString nameOfWrites()
     return QString(mark);
 }
 
+/// Compares inline: this runs at each access to a variable.
+bool beginsWithMark(const QString &name)
+{
+    return !name.isEmpty() && name.at(0) == mark;
+}
+
 QString keyOf(const QString &name)
 {
-    return name.startsWith(mark) ? mark + name : name;
+    return beginsWithMark(name) ? mark + name : name;
 }
 
 QString nameOf(const QString &key)
 {
-    return key.startsWith(mark) ? key.mid(1) : key;
+    return beginsWithMark(key) ? key.mid(1) : key;
 }
 
 /// Returns the place of the variable called `name`, or the end of the hash.
@@ -52,7 +58,7 @@ template <typename Variables>
 auto find(Variables &variables, const QString &name)
 {
     // Almost no name needs a key of its own, and a copy of the name would cost time at each access.
-    return Q_UNLIKELY(name.startsWith(mark)) ? variables.find(keyOf(name)) : variables.find(name);
+    return Q_UNLIKELY(beginsWithMark(name)) ? variables.find(keyOf(name)) : variables.find(name);
 }
 
 /// Returns the names that were written, as the keys of a map, to be changed in place.

@@ -34,10 +34,16 @@ bool isPair(QStringView string, int at)
 /// The end of the code units from `begin` on that JSON has as they are.
 int plainEnd(QStringView string, int begin)
 {
+    const QChar *const units = string.data();
+    const auto size = static_cast<int>(string.size());
     int end = begin;
-    while (end < string.size() && (isPlain(string.at(end)) || isPair(string, end)))
-        end += isPlain(string.at(end)) ? 1 : 2;
-    return end;
+    while (true) {
+        while (end < size && isPlain(units[end]))
+            ++end;
+        if (end == size || !isPair(string, end))
+            return end;
+        end += 2;
+    }
 }
 
 void appendEscape(QByteArray &text, ushort unit)
