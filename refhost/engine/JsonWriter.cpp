@@ -15,7 +15,8 @@ namespace {
 
 constexpr ushort byteOrderMark = 0xFEFF;
 
-/// Where a number stands: within an array a whole double is told from an integer.
+/// Place of a number: within an array a whole double ends in ".0", so that it differs from an
+/// integer.
 enum class Place { Array, Elsewhere };
 
 /// Whether JSON has the code unit as it is, whatever stands beside it.

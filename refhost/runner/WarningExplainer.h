@@ -12,8 +12,8 @@ class Console;
 class OperationCatalog;
 
 /// Prints the explanations of warning lines that come with the plug-ins, each below its line. Reads
-/// them when the first line is explained; a file that cannot be used is told once, and its lines
-/// stay without an explanation.
+/// them when the first line is explained; a file that cannot be used gets one message, and its
+/// lines stay without an explanation.
 class WarningExplainer
 {
 public:

@@ -13,7 +13,7 @@ enum class Mistake {
     ReferenceType,      ///< a reference to a variable of a type that is not asked for
     NotANumber,         ///< a numeric operand that is none
     EmptyNumber,
-    NumberAsText,    ///< a text that changes since it travels as a number
+    NumberAsText,    ///< a text that changes because it is parsed as a number
     TypedEscape,     ///< a typed "\n" where a line feed was meant
     TypedPattern,    ///< a regular expression or a wildcard where a text is searched for
     EmptySearch,     ///< no text to search for
@@ -23,7 +23,7 @@ enum class Mistake {
     MaybeNotFound,   ///< the position of a text, which may not have been found, used as a start
     LoneDollar,      ///< "$" alone
     DollarInText,    ///< "$name" amid a text
-    MissingDollar,   ///< a text that is the name of a variable nobody reads
+    MissingDollar,   ///< a text that is the name of a variable that no step reads
     NameWithDollar,  ///< "$name" where the bare name belongs
     UndeclaredResult,
     EmptyResult,

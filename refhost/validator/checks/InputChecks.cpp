@@ -1,4 +1,4 @@
-#include "refhost/validator/checks/InputChecks.h"
+#include "refhost/validator/checks/CheckRows.h"
 
 #include "refhost/engine/VarTypeName.h"
 #include "refhost/validator/CheckContext.h"

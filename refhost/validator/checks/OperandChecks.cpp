@@ -1,4 +1,4 @@
-#include "refhost/validator/checks/OperandChecks.h"
+#include "refhost/validator/checks/CheckRows.h"
 
 #include "refhost/validator/trials/OperandTrial.h"
 #include "refhost/validator/trials/OperationCheck.h"

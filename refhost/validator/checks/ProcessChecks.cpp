@@ -1,4 +1,4 @@
-#include "refhost/validator/checks/ProcessChecks.h"
+#include "refhost/validator/checks/CheckRows.h"
 
 #include "refhost/validator/CheckContext.h"
 #include "refhost/validator/trials/MemoryLimit.h"
